@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QString>
+
+#include <stdexcept>
+
+namespace db {
+
+/// A statement or a connect that failed. Carries what the server or the client library said.
+class Fault final : public std::runtime_error {
+public:
+    /// code: the server's or the client library's number (0 where this program found the fault itself);
+    /// sqlState: five characters; message: as the server words it; statement: the text that failed, may be empty.
+    Fault(unsigned code, QString sqlState, const QString& message, QString statement);
+
+    [[nodiscard]] unsigned code() const { return m_code; }
+    [[nodiscard]] const QString& sqlState() const { return m_sqlState; }
+    [[nodiscard]] const QString& statement() const { return m_statement; }
+
+private:
+    unsigned m_code;
+    QString m_sqlState;
+    QString m_statement;
+};
+
+} // namespace db

@@ -1,0 +1,47 @@
+#include "toolkit/text/number_text.h"
+
+#include <QLocale>
+
+#include <cmath>
+
+namespace {
+
+QString grouped(QString digits) {
+    const qsizetype first = digits.startsWith(u'-') ? 1 : 0;
+    for (qsizetype at = digits.size() - 3; at > first; at -= 3)
+        digits.insert(at, u'.');
+    return digits;
+}
+
+QString withoutNegativeZero(const QString& number) {
+    for (const QChar c : number)
+        if (c >= u'1' && c <= u'9')
+            return number;
+    return number.startsWith(u'-') ? number.mid(1) : number;
+}
+
+} // namespace
+
+QString NormalizeDecimal(const QString& text) {
+    const QString trimmed = text.trimmed();
+    if (trimmed.isEmpty())
+        return QStringLiteral("0");
+    return QString(trimmed).replace(u',', u'.');
+}
+
+QString groupedInteger(double value) {
+    if (!std::isfinite(value))
+        return QStringLiteral("0");
+    return grouped(withoutNegativeZero(QString::number(std::nearbyint(value), 'f', 0)));
+}
+
+QString groupedTwoDecimals(double value) {
+    if (!std::isfinite(value))
+        return QStringLiteral("0,00");
+    const QString number = withoutNegativeZero(QString::number(value, 'f', 2));
+    return grouped(number.left(number.size() - 3)) + u',' + number.right(2);
+}
+
+QString plainNumber(double value) {
+    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+}
