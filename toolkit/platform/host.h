@@ -1,0 +1,46 @@
+#pragma once
+
+#include "toolkit/platform/descriptor.h"
+
+#include <QString>
+
+#include <chrono>
+#include <stdexcept>
+
+namespace platform {
+
+/// Four groups of one to three digits, each at most 255, parted by points.
+[[nodiscard]] bool IsIpAddress(const QString& text);
+
+/// The first IPv4 address of a host name in dotted form; for a dotted address the host's name. Gives `text` back where
+/// nothing is found. Waits as long as the system's resolver does.
+[[nodiscard]] QString ResolveHost(const QString& text);
+
+/// No echo can be sent from this process; the text is meant for the user.
+class PingUnavailable final : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+/// What to tell the user when neither kind of socket opens, from the errno of the datagram and of the raw try: no
+/// sockets to be had at all, no ICMP on this machine, or no permission.
+[[nodiscard]] const char* pingFailureText(int datagramError, int rawError);
+
+/// The handle for ICMP echoes: an unprivileged datagram socket where the machine allows it, a raw one else.
+class PingSocket final {
+public:
+    /// Throws PingUnavailable.
+    PingSocket();
+
+    /// Sends one echo of 100 bytes with a time-to-live of 64 to a dotted address and waits for its reply. False where
+    /// the address is none, the system refuses to send, or no reply comes in time.
+    [[nodiscard]] bool PingHost(const QString& address,
+                                std::chrono::milliseconds timeout = std::chrono::milliseconds(1000));
+
+private:
+    Descriptor m_socket;
+    bool m_isRaw = false;
+    quint16 m_sequence = 0;
+};
+
+} // namespace platform
