@@ -1,0 +1,69 @@
+#include "tests/support/test_database.h"
+
+#include "tools/company/install.h"
+
+#include <QCoreApplication>
+
+#include <atomic>
+#include <stdexcept>
+
+namespace {
+
+QString variable(const char* name) {
+    if (!qEnvironmentVariableIsSet(name))
+        throw std::runtime_error(std::string("No server to test with: ") + name +
+                                 " is not set; run the tests through tools/server run");
+    return qEnvironmentVariable(name);
+}
+
+QString uniqueName() {
+    static std::atomic<int> count = 0;
+    return QStringLiteral("orvane_test_%1_%2").arg(QCoreApplication::applicationPid()).arg(++count);
+}
+
+} // namespace
+
+db::ConnectionSettings testServer() {
+    return {.host = variable("ORVANE_DB_HOST"),
+            .port = variable("ORVANE_DB_PORT").toUShort(),
+            .user = variable("ORVANE_DB_USER"),
+            .password = variable("ORVANE_DB_PASSWORD"),
+            .database = {}};
+}
+
+TestDatabase::TestDatabase() {
+    db::ConnectionSettings settings = testServer();
+    settings.database = uniqueName();
+    // A test program that was killed may have left its databases behind, and process numbers come back.
+    company::uninstall(settings);
+    company::install(settings);
+    m_main.configure(settings);
+    m_app.configure(company::applicationSettings(settings));
+}
+
+TestDatabase::~TestDatabase() {
+    try {
+        company::uninstall(m_main.settings());
+    } catch (const std::exception& fault) {
+        qWarning("The test databases stay behind: %s", fault.what());
+    }
+}
+
+qint64 TestDatabase::run(db::Connection& connection, const QString& sql) {
+    qint64 touched = 0;
+    for (const QString& statement : company::statementsOf(sql))
+        touched = connection.execute(statement);
+    return touched;
+}
+
+QStringList TestDatabase::rows(db::Connection& connection, const QString& sql) {
+    QStringList lines;
+    db::Result result = connection.query(sql);
+    while (result.next()) {
+        QStringList values;
+        for (int i = 0; i < int(result.columns().size()); ++i)
+            values << (result.isNull(i) ? QStringLiteral("NULL") : result.text(i));
+        lines << values.join(u'\t');
+    }
+    return lines;
+}
