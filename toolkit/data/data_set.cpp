@@ -1,0 +1,239 @@
+#include "toolkit/data/data_set.h"
+
+#include "toolkit/data/fault.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace data {
+
+namespace {
+
+const QVariant nullValue;
+
+} // namespace
+
+DataSet::DataSet(QObject* parent) : QObject(parent) {}
+
+void DataSet::open() {
+    if (isOpen())
+        return;
+    Rows rows = fetch();
+    m_fields = std::move(rows.fields);
+    m_table.load(std::move(rows.records));
+    applyOrder();
+    applyFilter();
+    m_state = State::Browse;
+    place(0);
+    m_bof = true;
+    tellViews(&DataSet::opened);
+    call(events.afterOpen);
+    if (!isEmpty())
+        call(events.afterScroll);
+}
+
+void DataSet::close() {
+    if (!isOpen())
+        return;
+    m_state = State::Inactive;
+    m_table.load({});
+    m_fields.clear();
+    m_buffer.clear();
+    place(0);
+    tellViews(&DataSet::closed);
+}
+
+void DataSet::reopen() {
+    close();
+    open();
+}
+
+void DataSet::first() {
+    requireOpen();
+    settle();
+    scrollTo(0);
+    m_bof = true;
+}
+
+void DataSet::last() {
+    requireOpen();
+    settle();
+    scrollTo(recordCount() - 1);
+    m_eof = true;
+}
+
+int DataSet::moveBy(int distance) {
+    requireOpen();
+    settle();
+    if (distance == 0 || (distance > 0 ? m_eof : m_bof))
+        return 0;
+    const int from = m_row;
+    const int target = from + distance;
+    call(events.beforeScroll);
+    place(target);
+    m_eof = m_eof || target >= recordCount();
+    m_bof = m_bof || target < 0;
+    const int moved = m_row - from;
+    tellViews(&DataSet::cursorMoved);
+    call(events.afterScroll);
+    return moved;
+}
+
+void DataSet::goToRow(int row) {
+    requireOpen();
+    settle();
+    scrollTo(row);
+}
+
+const QVariant& DataSet::valueAt(int row, int field) const {
+    if (row == m_row) {
+        const Record* current = currentRecord();
+        return current ? (*current)[size_t(field)] : nullValue;
+    }
+    return m_table.record(m_table.rows().at(size_t(row)))[size_t(field)];
+}
+
+std::optional<RowId> DataSet::bookmark() const {
+    if (m_row >= recordCount())
+        return std::nullopt;
+    return m_table.rows()[size_t(m_row)];
+}
+
+bool DataSet::goToBookmark(RowId record) {
+    requireOpen();
+    settle();
+    const int row = m_table.positionOf(record);
+    if (row >= 0)
+        scrollTo(row);
+    return row >= 0;
+}
+
+bool DataSet::locate(const Matches& matches, Qt::CaseSensitivity sensitivity) {
+    requireOpen();
+    settle();
+    const int row = rowOf(matches, sensitivity);
+    if (row >= 0)
+        scrollTo(row);
+    return row >= 0;
+}
+
+int DataSet::rowOf(const Matches& matches, Qt::CaseSensitivity sensitivity) {
+    requireOpen();
+    const Search search = searchOf(matches);
+    const std::optional<RowId> found = m_table.find(search.fields, search.values, sensitivity);
+    return found ? m_table.positionOf(*found) : -1;
+}
+
+void DataSet::setFilter(const QString& field, const QVariant& value) {
+    if (isOpen())
+        settle();
+    m_filter = FilterSetting{.field = field, .value = value};
+    applyFilter();
+}
+
+void DataSet::clearFilter() {
+    if (isOpen())
+        settle();
+    m_filter.reset();
+    applyFilter();
+}
+
+void DataSet::setOrder(const QStringList& fields) {
+    if (isOpen())
+        settle();
+    m_order = fields;
+    applyOrder();
+}
+
+int DataSet::fieldIndex(QStringView name) const {
+    for (size_t i = 0; i < m_fields.size(); ++i)
+        if (name.compare(m_fields[i].name, Qt::CaseInsensitive) == 0)
+            return int(i);
+    throw Fault(QStringLiteral("Field '%1' not found").arg(name));
+}
+
+bool DataSet::hasField(QStringView name) const {
+    return std::ranges::any_of(
+        m_fields, [name](const Field& field) { return name.compare(field.name, Qt::CaseInsensitive) == 0; });
+}
+
+const QVariant& DataSet::value(QStringView field) const {
+    const int index = fieldIndex(field);
+    const Record* current = currentRecord();
+    return current ? (*current)[size_t(index)] : nullValue;
+}
+
+void DataSet::requireOpen() const {
+    if (!isOpen())
+        throw Fault(QStringLiteral("The data set is closed"));
+}
+
+const Record* DataSet::currentRecord() const {
+    if (isEditing())
+        return &m_buffer;
+    return m_row < recordCount() ? &m_table.record(m_table.rows()[size_t(m_row)]) : nullptr;
+}
+
+DataSet::Search DataSet::searchOf(const Matches& matches) const {
+    Search search;
+    for (const Match& match : matches) {
+        const int field = fieldIndex(match.field);
+        search.fields.push_back(field);
+        search.values.push_back(toField(match.value, m_fields[size_t(field)]));
+    }
+    return search;
+}
+
+void DataSet::applyFilter() {
+    if (m_fields.empty())
+        return;
+    if (m_filter) {
+        const int field = fieldIndex(m_filter->field);
+        m_table.setFilter(field, toField(m_filter->value, m_fields[size_t(field)]));
+    } else {
+        m_table.clearFilter();
+    }
+    if (!isOpen())
+        return;
+    tellViews(&DataSet::reset);
+    first();
+}
+
+void DataSet::applyOrder() {
+    if (m_fields.empty())
+        return;
+    const std::optional<RowId> current = bookmark();
+    std::vector<int> fields;
+    for (const QString& name : std::as_const(m_order))
+        fields.push_back(fieldIndex(name));
+    m_table.setOrder(std::move(fields));
+    if (!isOpen())
+        return;
+    place(current ? m_table.positionOf(*current) : 0);
+    tellViews(&DataSet::reset);
+}
+
+void DataSet::scrollTo(int row) {
+    call(events.beforeScroll);
+    place(row);
+    tellViews(&DataSet::cursorMoved);
+    call(events.afterScroll);
+}
+
+void DataSet::place(int row) {
+    m_row = std::clamp(row, 0, std::max(0, recordCount() - 1));
+    m_bof = m_eof = recordCount() == 0;
+}
+
+void DataSet::setState(State state) {
+    m_state = state;
+    tellViews(&DataSet::stateChanged);
+}
+
+void DataSet::viewsOn() {
+    if (--m_viewsOff > 0 || !std::exchange(m_viewsMissed, false))
+        return;
+    Q_EMIT reset();
+}
+
+} // namespace data

@@ -1,0 +1,216 @@
+#pragma once
+
+#include "toolkit/data/record_table.h"
+
+#include <QObject>
+#include <QStringList>
+#include <QStringView>
+
+#include <functional>
+#include <optional>
+
+namespace data {
+
+enum class State { Inactive, Browse, Edit, Insert };
+
+/// What a screen hangs on a data set; called synchronously, also while the bound views are off.
+struct Events {
+    using Handler = std::function<void()>;
+    Handler afterOpen, newRecord, beforePost, afterPost, beforeCancel, afterCancel;
+    Handler beforeDelete, afterDelete, beforeScroll, afterScroll;
+};
+
+/// One condition of a search: the field holds the value.
+struct Match {
+    QStringView field;
+    QVariant value;
+};
+using Matches = std::vector<Match>;
+
+struct Rows {
+    std::vector<Field> fields;
+    std::vector<Record> records;
+};
+
+/// Records with named typed fields and a cursor on one of them. Reading takes the current record, or what is being
+/// entered for it; where there is none every field reads as NULL. Whatever moves the cursor ends an edit first: a
+/// changed record is posted, an untouched one cancelled, so an appended record nobody filled in vanishes.
+/// Field names go without regard to case. Wrong use throws Fault, a refused statement db::Fault.
+class DataSet : public QObject {
+    Q_OBJECT
+
+public:
+    explicit DataSet(QObject* parent = nullptr);
+
+    Events events;
+
+    void open();
+    void close();
+    void reopen();
+    [[nodiscard]] bool isOpen() const { return m_state != State::Inactive; }
+    [[nodiscard]] State state() const { return m_state; }
+    [[nodiscard]] bool isEditing() const { return m_state == State::Edit || m_state == State::Insert; }
+    /// A read-only set refuses append, edit and remove.
+    void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
+    [[nodiscard]] bool isReadOnly() const { return m_readOnly; }
+
+    // The cursor. Before the first and after the last record there is no place: the cursor stays on the record and
+    // isBof() or isEof() tells that a step led beyond it. Both hold in an empty set.
+    void first();
+    void last();
+    void next() { moveBy(1); }
+    void prior() { moveBy(-1); }
+    /// Gives the number of records really moved, negative backwards.
+    int moveBy(int distance);
+    /// Makes the record at a place of the list current; a place beyond either end means the record there.
+    void goToRow(int row);
+    [[nodiscard]] bool isBof() const { return m_bof; }
+    [[nodiscard]] bool isEof() const { return m_eof; }
+    /// Stored records that show up; one that is being inserted does not count yet.
+    [[nodiscard]] int recordCount() const { return int(m_table.rows().size()); }
+    /// No record to stand on, not even one that is being inserted.
+    [[nodiscard]] bool isEmpty() const { return rowCount() == 0; }
+
+    // The list as a view shows it: counted from 0, with the record that is being inserted at its end.
+    [[nodiscard]] int rowCount() const { return recordCount() + (m_state == State::Insert ? 1 : 0); }
+    [[nodiscard]] int row() const { return m_row; }
+    [[nodiscard]] const QVariant& valueAt(int row, int field) const;
+    /// Name of the current record that lasts until it is removed or the set closes; none while it is being inserted.
+    [[nodiscard]] std::optional<RowId> bookmark() const;
+    /// False, and nothing moves, where the record is gone or does not show up.
+    bool goToBookmark(RowId record);
+
+    /// Moves to the first record that matches; false, and nothing moves, where there is none.
+    bool locate(const Matches& matches, Qt::CaseSensitivity sensitivity = Qt::CaseSensitive);
+    /// Place of the first match without moving; -1 where there is none.
+    [[nodiscard]] int rowOf(const Matches& matches, Qt::CaseSensitivity sensitivity = Qt::CaseSensitive);
+
+    /// Only records whose field holds the value show up, and the first of them is current. Stays in force when the set
+    /// is opened again; on a closed set it waits for the opening.
+    void setFilter(const QString& field, const QVariant& value);
+    void clearFilter();
+    /// Sorts by the fields, ascending; none: the order of arrival. Stays in force like the filter.
+    void setOrder(const QStringList& fields);
+
+    [[nodiscard]] const std::vector<Field>& fields() const { return m_fields; }
+    [[nodiscard]] int fieldIndex(QStringView name) const;
+    [[nodiscard]] bool hasField(QStringView name) const;
+
+    [[nodiscard]] const QVariant& value(QStringView field) const;
+    [[nodiscard]] bool isNull(QStringView field) const { return !value(field).isValid(); }
+    [[nodiscard]] QString text(QStringView field) const { return textOf(value(field)); }
+    [[nodiscard]] qint64 integer(QStringView field) const { return integerOf(value(field)); }
+    [[nodiscard]] qint32 integer32(QStringView field) const { return integer32Of(value(field)); }
+    [[nodiscard]] double real(QStringView field) const { return realOf(value(field)); }
+    [[nodiscard]] QDate date(QStringView field) const { return dateOf(value(field)); }
+    [[nodiscard]] QDateTime moment(QStringView field) const { return momentOf(value(field)); }
+
+    /// Only while the record is being edited or inserted.
+    void setValue(QStringView field, const QVariant& value);
+    /// For bound edits: starts editing where need be.
+    void editValue(QStringView field, const QVariant& value);
+
+    void append();
+    /// In an empty set this appends.
+    void edit();
+    /// Nothing while browsing.
+    void post();
+    void cancel();
+    /// Deletes the current record; one that is being inserted is cancelled instead.
+    void remove();
+    /// What every move does first: posts a changed record, cancels an untouched one.
+    void settle();
+
+Q_SIGNALS:
+    void opened();
+    void closed();
+    void stateChanged();
+    void cursorMoved();
+    void recordChanged(int row);
+    void rowAboutToBeInserted(int row);
+    void rowInserted(int row);
+    void rowAboutToBeRemoved(int row);
+    void rowRemoved(int row);
+    /// Everything may be different: read all anew, whether it is open and its fields included.
+    void reset();
+    /// Bound edits hand over what is typed and not yet set. Sent even while the views are off.
+    void flushRequested();
+
+protected:
+    /// The fields and records that the set opens with.
+    [[nodiscard]] virtual Rows fetch() = 0;
+    virtual void recordInserted(RowId) {}
+    virtual void recordReplaced(RowId, const Record& /*before*/) {}
+    virtual void recordRemoved(RowId, const Record& /*last*/) {}
+
+    [[nodiscard]] const Record& record(RowId row) const { return m_table.record(row); }
+    void requireOpen() const;
+
+private:
+    friend class ViewsOff;
+
+    struct FilterSetting {
+        QString field;
+        QVariant value;
+    };
+    struct Search {
+        std::vector<int> fields;
+        std::vector<QVariant> values;
+    };
+
+    [[nodiscard]] const Record* currentRecord() const;
+    [[nodiscard]] Search searchOf(const Matches& matches) const;
+    void applyFilter();
+    void applyOrder();
+    void requireWritable() const;
+    void scrollTo(int row);
+    void place(int row);
+    void setState(State state);
+    void startInsert();
+    void dropInsert();
+    void dropEdit();
+    void storeBuffer();
+    void removeCurrent();
+    void viewsOff() { ++m_viewsOff; }
+    void viewsOn();
+
+    static void call(const Events::Handler& handler) {
+        if (handler)
+            handler();
+    }
+    template <typename Signal, typename... Arguments>
+    void tellViews(Signal signal, Arguments... arguments) {
+        if (m_viewsOff > 0)
+            m_viewsMissed = true;
+        else
+            Q_EMIT(this->*signal)(arguments...);
+    }
+
+    std::vector<Field> m_fields;
+    RecordTable m_table;
+    State m_state = State::Inactive;
+    int m_row = 0;
+    bool m_bof = true;
+    bool m_eof = true;
+    bool m_modified = false;
+    bool m_readOnly = false;
+    Record m_buffer; ///< the current record while it is edited or inserted
+    std::optional<FilterSetting> m_filter;
+    QStringList m_order;
+    int m_viewsOff = 0;
+    bool m_viewsMissed = false;
+};
+
+/// While one lives, the views of the set are told nothing; the end of the outermost refreshes them once.
+class ViewsOff final {
+public:
+    explicit ViewsOff(DataSet& set) : m_set(set) { m_set.viewsOff(); }
+    ~ViewsOff() { m_set.viewsOn(); }
+    ViewsOff(const ViewsOff&) = delete;
+    ViewsOff& operator=(const ViewsOff&) = delete;
+
+private:
+    DataSet& m_set;
+};
+
+} // namespace data

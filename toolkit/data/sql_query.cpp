@@ -1,0 +1,84 @@
+#include "toolkit/data/sql_query.h"
+
+#include <utility>
+
+namespace data {
+
+namespace {
+
+Field fieldOf(const db::Column& column) {
+    return {.name = column.name, .type = column.type, .bits = column.bits, .isUnsigned = column.isUnsigned};
+}
+
+QVariant valueOf(const db::Result& rows, int column, FieldType type) {
+    if (rows.isNull(column))
+        return {};
+    switch (type) {
+    case FieldType::Integer:
+        return rows.integer(column);
+    case FieldType::Real:
+        return rows.real(column);
+    case FieldType::Text:
+        return rows.text(column);
+    case FieldType::Date: {
+        // The server's zero date is no date; it reads as NULL.
+        const QDate date = rows.date(column);
+        return date.isValid() ? QVariant(date) : QVariant();
+    }
+    case FieldType::Moment: {
+        const QDateTime moment = rows.moment(column);
+        return moment.isValid() ? QVariant(moment) : QVariant();
+    }
+    }
+    return {};
+}
+
+Record readRecord(const db::Result& rows) {
+    Record record;
+    record.reserve(rows.columns().size());
+    for (size_t i = 0; i < rows.columns().size(); ++i)
+        record.push_back(valueOf(rows, int(i), rows.columns()[i].type));
+    return record;
+}
+
+} // namespace
+
+SqlQuery::SqlQuery(db::Connection& connection, const QString& sql, QObject* parent) :
+    DataSet(parent), m_connection(connection), m_sql(sql) {
+    setReadOnly(true);
+}
+
+void SqlQuery::openSql(const QString& sql) {
+    close();
+    setSql(sql);
+    open();
+}
+
+void SqlQuery::setParameter(const QString& name, const QVariant& value) {
+    m_parameters.insert(name.toLower(), value);
+}
+
+void SqlQuery::follow(const DataSet& master, const QStringList& names) {
+    m_master = &master;
+    m_followed = names;
+}
+
+QString SqlQuery::boundSql() const {
+    db::Parameters values = m_parameters;
+    for (const QString& name : m_followed)
+        values.insert(name.toLower(), m_master->hasField(name) ? m_master->value(name) : QVariant());
+    return db::bindParameters(m_sql, values);
+}
+
+Rows SqlQuery::run() const {
+    db::Result rows = m_connection.query(boundSql());
+    Rows content;
+    for (const db::Column& column : rows.columns())
+        content.fields.push_back(fieldOf(column));
+    content.records.reserve(size_t(rows.rowCount()));
+    while (rows.next())
+        content.records.push_back(readRecord(rows));
+    return content;
+}
+
+} // namespace data

@@ -1,0 +1,134 @@
+#include "toolkit/data/table_writer.h"
+
+#include "toolkit/data/fault.h"
+#include "toolkit/db/fault.h"
+#include "toolkit/db/parameters.h"
+
+#include <algorithm>
+
+namespace data {
+
+namespace {
+
+/// A character takes at most three bytes on the wire, and the smallest usual limit of a server is 1 MB a statement.
+constexpr qsizetype longestInsert = 300'000;
+
+int indexOfField(const std::vector<Field>& fields, const QString& name) {
+    for (size_t i = 0; i < fields.size(); ++i)
+        if (fields[i].name.compare(name, Qt::CaseInsensitive) == 0)
+            return int(i);
+    throw Fault(QStringLiteral("Key field '%1' not found").arg(name));
+}
+
+QString quotedName(const QString& name) {
+    return u'`' + QString(name).replace(u'`', QStringLiteral("``")) + u'`';
+}
+
+} // namespace
+
+TableWriter::TableWriter(const QString& table, const std::vector<Field>& fields, const QStringList& keys,
+                         const QStringList& neverWritten) :
+    m_table(table),
+    m_fields(fields) {
+    for (const QString& key : keys)
+        m_keys.push_back(indexOfField(fields, key));
+    for (size_t i = 0; i < fields.size(); ++i)
+        if (!neverWritten.contains(fields[i].name, Qt::CaseInsensitive))
+            m_written.push_back(int(i));
+    if (m_table.isEmpty() || m_keys.empty())
+        throw Fault(QStringLiteral("The data set has no table to write to"));
+}
+
+std::vector<int> TableWriter::changedFields(const RowUpdate& row) const {
+    std::vector<int> changed;
+    std::ranges::copy_if(m_written, std::back_inserter(changed),
+                         [&row](int field) { return (*row.loaded)[size_t(field)] != (*row.current)[size_t(field)]; });
+    return changed;
+}
+
+QString TableWriter::deleteRows(std::span<const Record* const> rows) const {
+    QString sql = QStringLiteral("DELETE FROM %1 WHERE ").arg(quotedName(m_table));
+    const QString last = columnOf(m_keys.back());
+    QString open;
+    for (const Record* row : rows) {
+        // Rows that share all keys but the last stand in one list, which the server reads as points of its index.
+        const QString shared = keysButLast(*row);
+        if (open.isNull())
+            sql += shared + last + QStringLiteral(" IN (");
+        else if (shared == open)
+            sql += u',';
+        else
+            sql += QStringLiteral(") OR ") + shared + last + QStringLiteral(" IN (");
+        open = shared.isNull() ? QStringLiteral("") : shared;
+        sql += literalOf(*row, m_keys.back());
+    }
+    return sql + u')';
+}
+
+QString TableWriter::updateRows(std::span<const RowUpdate> rows, const std::vector<int>& changed) const {
+    QString list;
+    for (const RowUpdate& row : rows) {
+        list += list.isEmpty() ? QStringLiteral("SELECT ") : QStringLiteral(" UNION ALL SELECT ");
+        for (size_t i = 0; i < m_keys.size(); ++i)
+            list += literalOf(*row.loaded, m_keys[i]) + QStringLiteral(" AS k%1, ").arg(i);
+        for (size_t i = 0; i < changed.size(); ++i)
+            list += literalOf(*row.current, changed[i]) + QStringLiteral(" AS c%1, ").arg(i);
+        list.chop(2);
+    }
+    QStringList found;
+    for (size_t i = 0; i < m_keys.size(); ++i)
+        found << QStringLiteral("t.%1=n.k%2").arg(columnOf(m_keys[i])).arg(i);
+    QStringList set;
+    for (size_t i = 0; i < changed.size(); ++i)
+        set << QStringLiteral("t.%1=n.c%2").arg(columnOf(changed[i])).arg(i);
+    // The list of new values leads, so that each finds its row by the key and the table is never read through.
+    return QStringLiteral("UPDATE (") + list + QStringLiteral(") AS n STRAIGHT_JOIN ") + quotedName(m_table) +
+           QStringLiteral(" AS t ON ") + found.join(QStringLiteral(" AND ")) + QStringLiteral(" SET ") +
+           set.join(QStringLiteral(", "));
+}
+
+TableWriter::Insert TableWriter::insertRows(std::span<const Record* const> rows) const {
+    QStringList columns;
+    for (const int field : m_written)
+        columns << columnOf(field);
+    Insert insert{.sql = QStringLiteral("INSERT INTO %1 (%2) VALUES ").arg(quotedName(m_table), columns.join(u',')),
+                  .rows = 0};
+    insert.sql.reserve(longestInsert + 1000);
+    for (const Record* row : rows) {
+        QString values = insert.rows == 0 ? QStringLiteral("(") : QStringLiteral(",(");
+        for (const int field : m_written)
+            // What nobody filled in is left to the column's default.
+            values += ((*row)[size_t(field)].isValid() ? literalOf(*row, field) : QStringLiteral("DEFAULT")) + u',';
+        values.back() = u')';
+        if (insert.rows > 0 && insert.sql.size() + values.size() > longestInsert)
+            break;
+        insert.sql += values;
+        ++insert.rows;
+    }
+    return insert;
+}
+
+QString TableWriter::literalOf(const Record& record, int field) const {
+    const QVariant& value = record[size_t(field)];
+    const Field& column = m_fields[size_t(field)];
+    if (column.type == FieldType::Integer && value.isValid() && !fitsWidth(value.toLongLong(), column))
+        throw db::Fault(0, {},
+                        QStringLiteral("%1 does not fit column '%2' of '%3', which has %4 bits")
+                            .arg(value.toString(), column.name, m_table)
+                            .arg(column.bits),
+                        {});
+    return db::literal(value);
+}
+
+QString TableWriter::columnOf(int field) const {
+    return quotedName(m_fields[size_t(field)].name);
+}
+
+QString TableWriter::keysButLast(const Record& record) const {
+    QString shared;
+    for (size_t i = 0; i + 1 < m_keys.size(); ++i)
+        shared += columnOf(m_keys[i]) + u'=' + literalOf(record, m_keys[i]) + QStringLiteral(" AND ");
+    return shared;
+}
+
+} // namespace data
