@@ -1,0 +1,75 @@
+#include "toolkit/platform/host.h"
+
+#include <linux/capability.h>
+#include <net/if.h>
+#include <sched.h>
+#include <sys/ioctl.h>
+#include <sys/socket.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+#include <chrono>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <string>
+
+namespace {
+
+constexpr int exitNotPossible = 77;
+
+bool writeFile(const char* path, const std::string& text) {
+    std::ofstream file(path);
+    file << text << std::flush;
+    return file.good();
+}
+
+/// Puts this process into a network of its own, which holds nothing but a loopback.
+bool isolate() {
+    const std::string uid = std::to_string(::getuid());
+    const std::string gid = std::to_string(::getgid());
+    if (::unshare(CLONE_NEWNET) != 0) {
+        if (::unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0)
+            return false;
+        writeFile("/proc/self/setgroups", "deny");
+        if (!writeFile("/proc/self/uid_map", "0 " + uid + " 1") || !writeFile("/proc/self/gid_map", "0 " + gid + " 1"))
+            return false;
+    }
+    const platform::Descriptor control(::socket(AF_INET, SOCK_DGRAM, 0));
+    ifreq loopback{};
+    std::strcpy(loopback.ifr_name, "lo");
+    loopback.ifr_flags = IFF_UP;
+    return ::ioctl(control.get(), SIOCSIFFLAGS, &loopback) == 0;
+}
+
+bool dropCapabilities() {
+    __user_cap_header_struct header{.version = _LINUX_CAPABILITY_VERSION_3, .pid = 0};
+    const __user_cap_data_struct none[_LINUX_CAPABILITY_U32S_3]{};
+    return ::syscall(SYS_capset, &header, none) == 0;
+}
+
+bool prepare(const std::string& mode) {
+    if (!isolate() || !writeFile("/proc/sys/net/ipv4/ping_group_range", mode == "datagram" ? "0 0" : "1 0"))
+        return false;
+    if (mode == "silent")
+        return writeFile("/proc/sys/net/ipv4/icmp_echo_ignore_all", "1");
+    return mode == "raw" || dropCapabilities();
+}
+
+} // namespace
+
+// isolated_ping raw|datagram|silent|denied: pings its loopback where only the named kind of socket may be had, where
+// nobody answers, or where none may be had.
+int main(int argc, char** argv) {
+    if (argc != 2 || !prepare(argv[1]))
+        return exitNotPossible;
+    try {
+        platform::PingSocket ping;
+        const auto start = std::chrono::steady_clock::now();
+        const bool answered = ping.PingHost(QStringLiteral("127.0.0.1"));
+        const std::chrono::duration<double, std::milli> took = std::chrono::steady_clock::now() - start;
+        std::cout << (answered ? "answered " : "silent ") << int(took.count()) << std::endl;
+    } catch (const platform::PingUnavailable& fault) {
+        std::cout << fault.what() << std::endl;
+    }
+}

@@ -1,0 +1,82 @@
+#include "toolkit/platform/log.h"
+#include "toolkit/platform/user_setting.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+using namespace platform;
+
+namespace {
+
+const QString adminUserId = QStringLiteral("Admin User ID");
+
+void writeConf(const QString& folder, const QByteArray& content) {
+    QDir().mkpath(folder);
+    QFile file(folder + QStringLiteral("/user.conf"));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+}
+
+/// Lines that any logging category let through.
+int loggedLines = 0;
+
+void countLine(QtMsgType, const QMessageLogContext&, const QString&) {
+    ++loggedLines;
+}
+
+} // namespace
+
+TEST(ReadUserSetting, GivesTheValueExactlyOrAnEmptyText) {
+    const std::pair<QByteArray, const char*> cases[] = {
+        {"Admin User ID=x:3\n", "x:3"},
+        {"Admin User ID=3", "3"},
+        {"Admin User ID=x:\n", "x:"},
+        {"Admin User ID={3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}\r\n", "{3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}"},
+        {"\xEF\xBB\xBF"
+         "Admin User ID= a = \"b\", %41\\n;#\t \r\n",
+         " a = \"b\", %41\\n;#\t "},
+        {"Admin User ID=cabang é€😀\n", "cabang é€😀"},
+        {"[General]\nOther=1\nAdmin User ID Old=2\n\nAdmin User ID=4\nAdmin User ID=5\n", "4"},
+        {"Admin User ID=\n", ""},
+        {"Admin User ID\n", ""},
+        {"Admin User ID : 3\n", ""},
+        {"", ""},
+    };
+    const QTemporaryDir folder;
+    for (const auto& [content, value] : cases) {
+        writeConf(folder.path(), content);
+        EXPECT_EQ(ReadUserSetting(adminUserId, folder.path()).toStdString(), value) << content.toStdString();
+    }
+}
+
+TEST(ReadUserSetting, LooksIntoTheUsersConfigurationFolder) {
+    const QTemporaryDir home;
+    const QByteArray before = qgetenv("XDG_CONFIG_HOME");
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
+    EXPECT_EQ(ReadUserSetting(adminUserId).toStdString(), "");
+    writeConf(home.filePath(QStringLiteral("orvane")), "Admin User ID=x:7\n");
+    EXPECT_EQ(ReadUserSetting(adminUserId).toStdString(), "x:7");
+    if (before.isNull())
+        qunsetenv("XDG_CONFIG_HOME");
+    else
+        qputenv("XDG_CONFIG_HOME", before);
+}
+
+TEST(ReadUserSetting, AFailureLeavesALineOnlyWhereTheCategoryIsSwitchedOn) {
+    const QtMessageHandler before = qInstallMessageHandler(countLine);
+    const auto linesOfOneFailure = [] {
+        loggedLines = 0;
+        EXPECT_EQ(ReadUserSetting(adminUserId, QStringLiteral("/no such folder")), QString());
+        return loggedLines;
+    };
+    EXPECT_EQ(linesOfOneFailure(), 0);
+    QLoggingCategory::setFilterRules(QStringLiteral("orvane.platform=true"));
+    EXPECT_EQ(linesOfOneFailure(), 1);
+    QLoggingCategory::setFilterRules(QString());
+    EXPECT_EQ(linesOfOneFailure(), 0);
+    qInstallMessageHandler(before);
+}
