@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
+#include <memory>
 #include <string>
 
 using namespace platform;
@@ -24,6 +25,15 @@ std::string isolatedPing(const char* mode) {
     if (process.exitCode() == notPossible)
         return "not possible";
     return process.readAllStandardOutput().trimmed().toStdString();
+}
+
+/// None where the machine lets this user send no echo.
+std::unique_ptr<PingSocket> openPing() {
+    try {
+        return std::make_unique<PingSocket>();
+    } catch (const PingUnavailable&) {
+        return nullptr;
+    }
 }
 
 } // namespace
@@ -78,6 +88,8 @@ TEST(PingFailureText, TellsTheThreeReasonsApart) {
 }
 
 TEST(PingSocket, WithoutAnySocketTheSocketLayerIsBlamed) {
+    if (!openPing())
+        GTEST_SKIP() << "this user may not ping";
     try {
         const NoMoreDescriptors limit;
         const PingSocket ping;
@@ -88,12 +100,9 @@ TEST(PingSocket, WithoutAnySocketTheSocketLayerIsBlamed) {
 }
 
 TEST(PingSocket, HearsThisMachineAndEndsAtOnceWhereNothingCanBeSent) {
-    std::unique_ptr<PingSocket> ping;
-    try {
-        ping = std::make_unique<PingSocket>();
-    } catch (const PingUnavailable& fault) {
-        GTEST_SKIP() << "this user may not ping: " << fault.what();
-    }
+    const std::unique_ptr<PingSocket> ping = openPing();
+    if (!ping)
+        GTEST_SKIP() << "this user may not ping";
     QElapsedTimer timer;
     timer.start();
     for (int again = 0; again < 3; ++again) {
