@@ -9,7 +9,7 @@
 /// The value is rounded to the nearest whole number, ties to even. A value that is no number gives "0".
 [[nodiscard]] QString groupedInteger(double value);
 
-/// The picture "#,##0.00": grouped with points, a comma and two decimals, ties to even on the second decimal.
+/// The picture "#,##0.00": grouped with points, a comma and two decimals, halves away from zero.
 [[nodiscard]] QString groupedTwoDecimals(double value);
 
 /// Shortest text that reads back as the same double, with a point; used where a number goes into a statement.

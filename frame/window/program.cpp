@@ -1,0 +1,70 @@
+#include "frame/window/program.h"
+
+#include "frame/base/log.h"
+#include "frame/window/fr_menu.h"
+
+#include <QApplication>
+#include <QIcon>
+
+#include <utility>
+
+/// The pictures lie in a static library, where nothing else makes the linker keep them.
+static void loadPictures() {
+    Q_INIT_RESOURCE(window);
+}
+
+namespace window {
+
+namespace {
+constexpr int firstPanelArgument = 2;
+}
+
+QString launchToken() {
+    return QStringLiteral("Amber#reef73:~QLD~41|68");
+}
+
+Program::Program(ProgramEnvironment environment) :
+    m_environment(std::move(environment)), m_instance(m_environment.programPath) {}
+
+Program::~Program() = default;
+
+QString Program::argument(int position) const {
+    return m_environment.arguments.value(position);
+}
+
+bool Program::isAdmitted() {
+    if (m_instance.CheckPreviousInstance()) {
+        qCInfo(frame::startLog) << "ended: another instance of this path is running and was asked to come forward";
+        return false;
+    }
+    if (argument(1) == launchToken())
+        return true;
+    qCInfo(frame::startLog) << "ended: the launch token is missing or wrong";
+    return false;
+}
+
+bool Program::openFrame() {
+    loadPictures();
+    QApplication::setApplicationName(QStringLiteral("Orvane Payroll"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/window/icons/program.svg")));
+    m_frame = std::make_unique<Tfrm_menu>(m_environment.folder, m_environment.clock, m_environment.readUserSetting);
+    if (!m_frame->FormCreate()) {
+        qCInfo(frame::startLog) << "ended: no session with the database";
+        m_frame.reset();
+        return false;
+    }
+    m_frame->session().ADOConn.close();
+    m_frame->session().ADOConn_lang.close();
+    for (int panel = 0; panel < Tfrm_menu::panelCount; ++panel)
+        m_frame->setPanelText(panel, argument(firstPanelArgument + panel));
+    QObject::connect(&m_instance, &platform::InstanceGuard::raiseRequested, m_frame.get(), &Tfrm_menu::comeForward);
+    m_instance.listen();
+    m_frame->showMaximized();
+    return true;
+}
+
+void Program::closeAll() {
+    m_frame.reset();
+}
+
+} // namespace window

@@ -1,0 +1,181 @@
+#include "tests/robot/pointer.h"
+#include "tests/robot/robot.h"
+#include "tests/robot/shown.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDateTimeEdit>
+#include <QFileInfo>
+#include <QHash>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QRadioButton>
+#include <QSpinBox>
+#include <QtTest/qtestkeyboard.h>
+#include <QtTest/qtestsystem.h>
+
+namespace {
+
+using Words = QStringList;
+
+int wholeNumber(const QString& word) {
+    bool isNumber = false;
+    const int number = word.toInt(&isNumber);
+    if (!isNumber)
+        throw CommandError(QStringLiteral("%1 is no number").arg(word));
+    return number;
+}
+
+void focusOn(QWidget* control, const QString& path) {
+    control->setFocus(Qt::MouseFocusReason);
+    Robot::settle();
+    if (isReadOnly(control))
+        throw CommandError(QStringLiteral("%1 is read-only").arg(path));
+}
+
+void selectAll(QWidget* control) {
+    QMetaObject::invokeMethod(control, "selectAll");
+}
+
+void typeText(QWidget* control, const QString& text) {
+    selectAll(control);
+    if (text.isEmpty())
+        QTest::keyClick(control, Qt::Key_Delete);
+    for (const QChar c : text)
+        QTest::sendKeyEvent(QTest::Click, control, Qt::Key_unknown, QString(c), Qt::NoModifier);
+}
+
+void setDate(QDateTimeEdit* edit, const QString& value) {
+    const QDate date = QDate::fromString(value, Qt::ISODate);
+    if (!date.isValid())
+        throw CommandError(QStringLiteral("%1 is no date").arg(value));
+    edit->setDate(date);
+}
+
+/// One word shorter than typing: the value arrives whole and is accepted as by the Enter key.
+void setValue(QWidget* control, const QString& path, const QString& value) {
+    if (auto* box = qobject_cast<QAbstractButton*>(control); box && box->isCheckable()) {
+        if (box->isChecked() != (value == QLatin1String("-1")))
+            clickControl(control, path);
+        return;
+    }
+    focusOn(control, path);
+    if (auto* date = qobject_cast<QDateTimeEdit*>(control)) {
+        setDate(date, value);
+    } else if (qobject_cast<QLineEdit*>(control) || qobject_cast<QPlainTextEdit*>(control)) {
+        typeText(control, value);
+    } else if (auto* number = qobject_cast<QSpinBox*>(control)) {
+        number->setValue(wholeNumber(value));
+    } else {
+        throw CommandError(QStringLiteral("%1 takes no value").arg(path));
+    }
+    QMetaObject::invokeMethod(control, "editingFinished");
+}
+
+void chooseEntry(QWidget* control, const QString& path, const QString& text) {
+    auto* combo = qobject_cast<QComboBox*>(control);
+    if (!combo)
+        throw CommandError(QStringLiteral("%1 has nothing to choose from").arg(path));
+    const int index = text.isEmpty() ? -1 : combo->findText(text);
+    if (index < 0 && !text.isEmpty())
+        throw CommandError(QStringLiteral("%1 has no entry %2").arg(path, quoted(text)));
+    focusOn(control, path);
+    combo->setCurrentIndex(index);
+    QMetaObject::invokeMethod(combo, "activated", Q_ARG(int, index));
+}
+
+void leaveControl(QWidget* control, const QString& path) {
+    if (!control->hasFocus() && !control->isAncestorOf(QApplication::focusWidget()))
+        throw CommandError(QStringLiteral("%1 has no focus").arg(path));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+}
+
+QString stateOf(const QWidget* control) {
+    const auto word = [](bool holds, const char16_t* name) {
+        return (holds ? QString() : QStringLiteral("not-")) + QString::fromUtf16(name);
+    };
+    const QWidget* focus = QApplication::focusWidget();
+    const bool focused = focus && (focus == control || control->isAncestorOf(focus));
+    return QStringList{word(control->isVisible(), u"visible"), word(control->isEnabled(), u"enabled"),
+                       word(isReadOnly(control), u"readonly"), word(focused, u"focused")}
+        .join(u' ');
+}
+
+void printForms(Robot& robot) {
+    for (const QWidget* form : robot.forms().openForms())
+        Robot::print(QStringLiteral("%1 %2").arg(form->objectName(), quoted(form->windowTitle())));
+}
+
+void shoot(Robot& robot, const QString& path) {
+    const auto forms = robot.forms().openForms();
+    if (forms.empty())
+        throw CommandError(QStringLiteral("no form is open"));
+    if (!forms.front()->window()->grab().save(path, "PNG"))
+        throw CommandError(QStringLiteral("cannot write %1").arg(path));
+}
+
+void printItems(const QWidget* control) {
+    for (const QString& item : shownItems(control))
+        Robot::print(item);
+}
+
+struct Action {
+    int least;
+    int most;
+    void (*run)(Robot&, const Words&);
+};
+
+constexpr int anyNumber = 1000;
+
+// The words behind the command's own name; how many it takes stands beside it.
+const QHash<QString, Action>& actions() {
+    static const QHash<QString, Action> table{
+        {u"start"_qs, {0, 0, [](Robot& r, const Words&) { r.startProgram(); }}},
+        {u"click"_qs, {1, 1, [](Robot& r, const Words& w) { clickControl(r.reachable(w[0]), w[0]); }}},
+        {u"double"_qs, {1, 1, [](Robot& r, const Words& w) { doubleClickControl(r.reachable(w[0]), w[0]); }}},
+        {u"type"_qs,
+         {2, 2,
+          [](Robot& r, const Words& w) {
+              QWidget* control = r.reachable(w[0]);
+              focusOn(control, w[0]);
+              typeText(control, w[1]);
+          }}},
+        {u"set"_qs, {2, 2, [](Robot& r, const Words& w) { setValue(r.reachable(w[0]), w[0], w[1]); }}},
+        {u"choose"_qs, {2, 2, [](Robot& r, const Words& w) { chooseEntry(r.reachable(w[0]), w[0], w[1]); }}},
+        {u"leave"_qs, {1, 1, [](Robot& r, const Words& w) { leaveControl(r.reachable(w[0]), w[0]); }}},
+        {u"answer"_qs,
+         {1, anyNumber,
+          [](Robot& r, const Words& w) {
+              for (const QString& word : w)
+                  r.dialogs().queueAnswer(wholeNumber(word));
+          }}},
+        {u"get"_qs,
+         {1, 1,
+          [](Robot& r, const Words& w) {
+              Robot::print(QStringLiteral("%1 = %2").arg(w[0], quoted(shownText(r.control(w[0])))));
+          }}},
+        {u"state"_qs, {1, 1, [](Robot& r, const Words& w) { Robot::print(w[0] + u' ' + stateOf(r.control(w[0]))); }}},
+        {u"items"_qs, {1, 1, [](Robot& r, const Words& w) { printItems(r.control(w[0])); }}},
+        {u"forms"_qs, {0, 0, [](Robot& r, const Words&) { printForms(r); }}},
+        {u"close"_qs, {1, 1, [](Robot& r, const Words& w) { r.reachable(w[0])->close(); }}},
+        {u"shot"_qs, {1, 1, [](Robot& r, const Words& w) { shoot(r, w[0]); }}},
+        {u"wait"_qs, {1, 1, [](Robot&, const Words& w) { QTest::qWait(wholeNumber(w[0])); }}},
+        {u"took"_qs,
+         {0, 0, [](Robot& r, const Words&) { Robot::print(QStringLiteral("took %1 ms").arg(r.lastTook())); }}},
+        {u"echo"_qs, {1, anyNumber, [](Robot&, const Words& w) { Robot::print(w.join(u' ')); }}},
+    };
+    return table;
+}
+
+} // namespace
+
+void carryOut(Robot& robot, const QStringList& words) {
+    const auto action = actions().constFind(words.first());
+    if (action == actions().constEnd())
+        throw CommandError(QStringLiteral("unknown command %1").arg(words.first()));
+    const Words rest = words.mid(1);
+    if (rest.size() < action->least || rest.size() > action->most)
+        throw CommandError(QStringLiteral("%1 takes other words").arg(words.first()));
+    action->run(robot, rest);
+}

@@ -1,0 +1,92 @@
+#include "tests/robot/controls.h"
+
+#include "tests/robot/script.h"
+
+#include <QApplication>
+#include <QEvent>
+
+#include <algorithm>
+
+namespace {
+
+bool isForm(const QWidget* widget) {
+    return widget->isVisible() && widget->objectName().startsWith(QLatin1String("frm_"), Qt::CaseInsensitive);
+}
+
+bool sameName(const QString& a, const QString& b) {
+    return a.compare(b, Qt::CaseInsensitive) == 0;
+}
+
+QWidget* formByName(const FormOrder& forms, const QString& name) {
+    for (QWidget* form : forms.openForms())
+        if (sameName(form->objectName(), name))
+            return form;
+    return nullptr;
+}
+
+QWidget* controlOn(QWidget* form, const QString& name) {
+    if (sameName(form->objectName(), name))
+        return form;
+    for (QWidget* child : form->findChildren<QWidget*>())
+        if (sameName(child->objectName(), name))
+            return child;
+    return nullptr;
+}
+
+} // namespace
+
+FormOrder::FormOrder(QObject* parent) : QObject(parent) {
+    qApp->installEventFilter(this);
+}
+
+bool FormOrder::eventFilter(QObject* watched, QEvent* event) {
+    auto* widget = qobject_cast<QWidget*>(watched);
+    if (widget && widget->isWindow() && (event->type() == QEvent::WindowActivate || event->type() == QEvent::Show)) {
+        std::erase(m_windows, widget);
+        m_windows.push_back(widget);
+    } else if (event->type() == QEvent::Destroy || event->type() == QEvent::Hide) {
+        std::erase(m_windows, widget);
+    }
+    return false;
+}
+
+std::vector<QWidget*> FormOrder::openForms() const {
+    std::vector<QWidget*> forms;
+    for (auto window = m_windows.rbegin(); window != m_windows.rend(); ++window) {
+        for (QWidget* inner : (*window)->findChildren<QWidget*>())
+            if (!inner->isWindow() && isForm(inner))
+                forms.push_back(inner);
+        if (isForm(*window))
+            forms.push_back(*window);
+    }
+    return forms;
+}
+
+QWidget* findControl(const FormOrder& forms, const QString& path) {
+    const qsizetype dot = path.indexOf(u'.');
+    if (dot >= 0) {
+        QWidget* form = formByName(forms, path.left(dot));
+        if (!form)
+            throw CommandError(QStringLiteral("no open form %1").arg(path.left(dot)));
+        if (QWidget* control = controlOn(form, path.mid(dot + 1)))
+            return control;
+        throw CommandError(QStringLiteral("no control %1").arg(path));
+    }
+    const std::vector<QWidget*> open = forms.openForms();
+    if (!open.empty())
+        if (QWidget* control = controlOn(open.front(), path))
+            return control;
+    if (QWidget* form = formByName(forms, path))
+        return form;
+    throw CommandError(QStringLiteral("no control %1 on the topmost form").arg(path));
+}
+
+void requireReachable(const QWidget* control, const QString& path) {
+    if (!control->isVisible())
+        throw CommandError(QStringLiteral("%1 is not visible").arg(path));
+    if (!control->isEnabled())
+        throw CommandError(QStringLiteral("%1 is disabled").arg(path));
+    const QWidget* modal = QApplication::activeModalWidget();
+    if (modal && modal != control->window() && !modal->isAncestorOf(control))
+        throw CommandError(QStringLiteral("%1 lies behind %2").arg(path, modal->objectName()));
+}

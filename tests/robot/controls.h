@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+
+#include <vector>
+
+/// Remembers in which order windows became active, so that the topmost form is known on every platform.
+class FormOrder final : public QObject {
+    Q_OBJECT
+
+public:
+    explicit FormOrder(QObject* parent);
+    /// Open forms, topmost first. A form is a visible widget whose object name begins with "frm_"; one that lies
+    /// inside the frame stands before the frame.
+    [[nodiscard]] std::vector<QWidget*> openForms() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    std::vector<QWidget*> m_windows; // oldest activation first
+};
+
+/// Finds a control by "form.control", or "control" on the topmost form, without regard to case; the form's own name
+/// alone means the form. Throws CommandError where there is none.
+[[nodiscard]] QWidget* findControl(const FormOrder& forms, const QString& path);
+
+/// Throws CommandError unless a person could work on the control now: visible, enabled, not behind a modal window.
+void requireReachable(const QWidget* control, const QString& path);

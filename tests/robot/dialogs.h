@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QObject>
+#include <QQueue>
+#include <QStringList>
+
+class MessageWindow;
+
+/// Answers message, input and file dialogs as they appear, through their own buttons, and prints each.
+class DialogAnswers final : public QObject {
+    Q_OBJECT
+
+public:
+    DialogAnswers();
+
+    void queueAnswer(int result) { m_answers.enqueue(result); }
+    /// True while a dialog that will be answered is on the screen.
+    [[nodiscard]] bool isAnswering() const { return m_answering > 0; }
+
+Q_SIGNALS:
+    /// A question came with nothing queued, or an answer that the dialog has no button for.
+    void failed(const QString& why);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void answer(MessageWindow* window);
+
+    QQueue<int> m_answers;
+    int m_answering = 0;
+};

@@ -1,0 +1,85 @@
+#include "tests/robot/robot.h"
+
+#include "toolkit/ui/theme.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
+#include <QTemporaryFile>
+
+namespace {
+
+/// A screen of the wanted size for the platform without a display.
+QByteArray screenDescription(QSize size) {
+    return QStringLiteral(R"({"screens":[{"name":"robot","x":0,"y":0,"width":%1,"height":%2,"logicalDpi":96}]})")
+        .arg(size.width())
+        .arg(size.height())
+        .toUtf8();
+}
+
+QSize sizeArgument(int argc, char** argv) {
+    for (int i = 1; i + 1 < argc; ++i)
+        if (qstrcmp(argv[i], "--size") == 0) {
+            const QList<QByteArray> sides = QByteArray(argv[i + 1]).split('x');
+            if (sides.size() == 2 && sides[0].toInt() > 0 && sides[1].toInt() > 0)
+                return {sides[0].toInt(), sides[1].toInt()};
+        }
+    return {1280, 800};
+}
+
+/// Must happen before the application object exists. On a real display the display's own size stands.
+void prepareScreen(QTemporaryFile& file, QSize size) {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    const bool display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+    if (platform != "offscreen" && (!platform.isEmpty() || display))
+        return;
+    if (!file.open())
+        return;
+    file.write(screenDescription(size));
+    file.close();
+    qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toLocal8Bit());
+}
+
+void describeOptions(QCommandLineParser& options) {
+    options.addOptions({{u"dir"_qs, u"folder that stands for the program's own"_qs, u"DIR"_qs, QDir::currentPath()},
+                        {u"user"_qs, u"login id of the launch contract"_qs, u"LOGIN"_qs},
+                        {u"admin-id"_qs, u"the per-user value"_qs, u"TEXT"_qs},
+                        {u"now"_qs, u"fixes the clock: yyyy-mm-dd hh:mm"_qs, u"MOMENT"_qs},
+                        {u"size"_qs, u"size of the screen without a display"_qs, u"WxH"_qs}});
+    options.addPositionalArgument(u"SCRIPT"_qs, u"file of commands; standard input without it"_qs, u"[SCRIPT]"_qs);
+    options.addHelpOption();
+}
+
+window::ProgramEnvironment environmentFrom(const QCommandLineParser& options) {
+    window::ProgramEnvironment environment;
+    environment.folder = QFileInfo(options.value(u"dir"_qs)).absoluteFilePath();
+    environment.programPath = environment.folder + QStringLiteral("/robot");
+    environment.arguments = {environment.programPath, window::launchToken(), options.value(u"user"_qs)};
+    environment.readUserSetting = [value = options.value(u"admin-id"_qs)](const QString&) { return value; };
+    if (options.isSet(u"now"_qs)) {
+        const auto now = QDateTime::fromString(options.value(u"now"_qs), QStringLiteral("yyyy-MM-dd HH:mm"));
+        environment.clock = [now] { return now; };
+    }
+    return environment;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QTemporaryFile screen;
+    prepareScreen(screen, sizeArgument(argc, argv));
+    QApplication application(argc, argv);
+    applyTheme(application);
+    QApplication::setQuitOnLastWindowClosed(false);
+    QCommandLineParser options;
+    describeOptions(options);
+    options.process(application);
+    const QStringList files = options.positionalArguments();
+    std::FILE* input = files.isEmpty() ? stdin : std::fopen(files.first().toLocal8Bit().constData(), "r");
+    if (!input) {
+        std::fprintf(stderr, "error: line 0: cannot read %s\n", qPrintable(files.first()));
+        return 2;
+    }
+    return Robot(environmentFrom(options), input).run();
+}

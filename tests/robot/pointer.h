@@ -1,0 +1,11 @@
+#pragma once
+
+#include <QPoint>
+#include <QWidget>
+
+/// Clicks the control where a hand would: a check box on its mark, anything else in its middle. Throws CommandError
+/// where another widget lies over that point.
+void clickControl(QWidget* control, const QString& path);
+
+/// Two clicks that both stand in the queue before the first is handled, as from a fast hand.
+void doubleClickControl(QWidget* control, const QString& path);

@@ -1,0 +1,93 @@
+#include "tests/robot/robot.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <cstdlib>
+#include <utility>
+
+Robot::Robot(window::ProgramEnvironment environment, std::FILE* input) :
+    m_environment(std::move(environment)), m_script(input) {
+    connect(&m_pulse, &QTimer::timeout, this, &Robot::step);
+    connect(&m_dialogs, &DialogAnswers::failed, this, [this](const QString& why) { fail(why); });
+}
+
+Robot::~Robot() = default;
+
+int Robot::run() {
+    m_pulse.start(0);
+    return QApplication::exec();
+}
+
+void Robot::print(const QString& fact) {
+    const QByteArray utf8 = fact.toUtf8() + '\n';
+    std::fwrite(utf8.constData(), 1, std::size_t(utf8.size()), stdout);
+    std::fflush(stdout);
+}
+
+void Robot::settle() {
+    QApplication::processEvents();
+    QApplication::sendPostedEvents();
+    QApplication::processEvents();
+}
+
+QWidget* Robot::reachable(const QString& path) {
+    QWidget* found = control(path);
+    requireReachable(found, path);
+    return found;
+}
+
+void Robot::startProgram() {
+    m_program.reset();
+    m_program = std::make_unique<window::Program>(m_environment);
+    print(m_program->start() ? QStringLiteral("started") : QStringLiteral("refused"));
+}
+
+bool Robot::mustWait() const {
+    if (m_dialogs.isAnswering())
+        return true;
+    // A command is still at work unless it has put a new modal screen in front of the person.
+    QWidget* modal = QApplication::activeModalWidget();
+    return !m_running.empty() && (!modal || modal == m_running.back() || !modal->isVisible());
+}
+
+void Robot::step() {
+    if (mustWait())
+        return;
+    if (!m_running.empty())
+        m_lastTook = m_clock.elapsed();
+    const std::optional<Command> command = m_script.next();
+    if (command) {
+        execute(*command);
+        return;
+    }
+    m_pulse.stop();
+    if (m_program)
+        m_program->closeAll();
+    QApplication::exit(0);
+}
+
+void Robot::execute(const Command& command) {
+    const bool measured = command.words.first() != QLatin1String("took");
+    if (measured)
+        m_clock.start();
+    m_running.push_back(QApplication::activeModalWidget());
+    const std::size_t depth = m_running.size();
+    try {
+        carryOut(*this, command.words);
+        settle();
+    } catch (const CommandError& error) {
+        fail(QString::fromUtf8(error.what()));
+    }
+    // Commands that ran inside this one have their own time; the outer one ended when its screen appeared.
+    if (measured && m_running.size() == depth)
+        m_lastTook = m_clock.elapsed();
+    m_running.pop_back();
+}
+
+void Robot::fail(const QString& why) const {
+    std::fflush(stdout);
+    std::fprintf(stderr, "error: line %d: %s\n", m_script.line(), qPrintable(why));
+    // Handlers of open screens are still on the stack; there is no way back through them.
+    std::_Exit(2);
+}

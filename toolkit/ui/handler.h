@@ -1,0 +1,26 @@
+#pragma once
+
+#include <QObject>
+#include <QWidget>
+
+#include <exception>
+#include <utility>
+
+/// Shows what a handler could not cope with, in the words of whoever raised it.
+void showFault(QWidget* screen, const std::exception& fault);
+
+/// Runs what an event asks for. A fault ends here with a message: no exception may reach the event loop.
+template <typename Action>
+void runHandler(QWidget* screen, Action&& action) {
+    try {
+        std::forward<Action>(action)();
+    } catch (const std::exception& fault) {
+        showFault(screen, fault);
+    }
+}
+
+/// Connects a signal with a screen's handler, guarded by runHandler.
+template <typename Sender, typename Signal, typename Screen>
+void onEvent(Sender* sender, Signal signal, Screen* screen, void (Screen::*handler)()) {
+    QObject::connect(sender, signal, screen, [screen, handler] { runHandler(screen, [&] { (screen->*handler)(); }); });
+}

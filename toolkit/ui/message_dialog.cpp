@@ -1,0 +1,123 @@
+#include "toolkit/ui/message_dialog.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QStyle>
+#include <QVBoxLayout>
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::array confirmationResults{MessageOk, MessageCancel, MessageLanguage};
+constexpr std::array noticeResults{MessageOk, MessageLanguage};
+constexpr char resultProperty[] = "messageResult";
+
+MessageResult resultOf(MessageKind kind, int index) {
+    return kind == MessageKind::Confirmation ? confirmationResults[std::size_t(index)]
+                                             : noticeResults[std::size_t(index)];
+}
+
+QStyle::StandardPixmap iconOf(MessageKind kind) {
+    switch (kind) {
+    case MessageKind::Confirmation:
+        return QStyle::SP_MessageBoxQuestion;
+    case MessageKind::Error:
+        return QStyle::SP_MessageBoxCritical;
+    case MessageKind::Information:
+        break;
+    }
+    return QStyle::SP_MessageBoxInformation;
+}
+
+QString defaultCaption(MessageKind kind) {
+    switch (kind) {
+    case MessageKind::Confirmation:
+        return QStringLiteral("Konfirmasi");
+    case MessageKind::Error:
+        return QStringLiteral("Kesalahan");
+    case MessageKind::Information:
+        break;
+    }
+    return QStringLiteral("Informasi");
+}
+
+QStringList defaultButtons(MessageKind kind) {
+    if (kind == MessageKind::Confirmation)
+        return {QStringLiteral("OK"), QStringLiteral("Cancel"), QStringLiteral("Language")};
+    return {QStringLiteral("OK"), QStringLiteral("Language")};
+}
+
+} // namespace
+
+MessageDialog::MessageDialog(MessageKind kind, QObject* parent) :
+    QObject(parent), m_kind(kind), m_buttonCount(int(defaultButtons(kind).size())), m_caption(defaultCaption(kind)),
+    m_buttonCaptions(defaultButtons(kind)) {}
+
+void MessageDialog::setButtonCount(int count) {
+    m_buttonCount = std::clamp(count, 1, int(m_buttonCaptions.size()));
+}
+
+void MessageDialog::setButtonCaption(int index, const QString& caption) {
+    if (index >= 0 && index < m_buttonCaptions.size())
+        m_buttonCaptions[index] = caption;
+}
+
+int MessageDialog::execute(QWidget* owner, const Message& message) {
+    MessageWindow window(m_kind, message, owner);
+    window.setObjectName(objectName());
+    window.setWindowTitle(m_caption);
+    for (int i = 0; i < m_buttonCount; ++i)
+        window.addButton(m_buttonCaptions[i], resultOf(m_kind, i));
+    return window.exec();
+}
+
+MessageWindow::MessageWindow(MessageKind kind, const Message& message, QWidget* owner) :
+    QDialog(owner), m_kind(kind), m_message(message), m_buttons(new QHBoxLayout) {
+    auto* icon = new QLabel;
+    const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+    icon->setPixmap(style()->standardIcon(iconOf(kind)).pixmap(size, size));
+    auto* text = new QLabel(message.text);
+    text->setObjectName(QStringLiteral("lbl_pesan"));
+    text->setTextFormat(Qt::PlainText);
+    text->setWordWrap(true);
+    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    text->setMinimumWidth(fontMetrics().averageCharWidth() * 48);
+
+    auto* body = new QHBoxLayout;
+    body->setSpacing(16);
+    body->addWidget(icon, 0, Qt::AlignTop);
+    body->addWidget(text, 1);
+    m_buttons->addStretch(1);
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(20, 20, 20, 16);
+    layout->setSpacing(20);
+    layout->addLayout(body);
+    layout->addLayout(m_buttons);
+    layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void MessageWindow::addButton(const QString& caption, MessageResult result) {
+    auto* button = new QPushButton(caption);
+    button->setProperty(resultProperty, int(result));
+    button->setDefault(result == MessageOk);
+    button->setAutoDefault(true);
+    m_buttons->addWidget(button);
+    connect(button, &QPushButton::clicked, this, [this, result] { done(result); });
+}
+
+bool MessageWindow::press(int result) {
+    for (auto* button : findChildren<QPushButton*>())
+        if (button->property(resultProperty).toInt() == result) {
+            button->click();
+            return true;
+        }
+    return false;
+}
+
+void MessageWindow::reject() {
+    if (!press(MessageCancel))
+        press(MessageOk);
+}

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QStatusBar>
+
+#include <vector>
+
+class QLabel;
+
+/// A status bar of panels of equal width.
+class StatusPanels final : public QStatusBar {
+    Q_OBJECT
+
+public:
+    explicit StatusPanels(QWidget* parent = nullptr);
+
+    void setPanelCount(int count);
+    [[nodiscard]] int panelCount() const { return int(m_panels.size()); }
+    void setPanelText(int index, const QString& text);
+    [[nodiscard]] QString panelText(int index) const;
+
+private:
+    std::vector<QLabel*> m_panels;
+};

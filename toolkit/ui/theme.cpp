@@ -1,0 +1,37 @@
+#include "toolkit/ui/theme.h"
+
+#include <QApplication>
+#include <QPalette>
+#include <QStyleFactory>
+
+namespace {
+
+QPalette lightPalette() {
+    QPalette palette(QColor(0xf3, 0xf5, 0xf7));
+    palette.setColor(QPalette::Base, Qt::white);
+    palette.setColor(QPalette::AlternateBase, QColor(0xf5, 0xf8, 0xfa));
+    palette.setColor(QPalette::Text, QColor(0x1f, 0x29, 0x33));
+    palette.setColor(QPalette::WindowText, QColor(0x1f, 0x29, 0x33));
+    palette.setColor(QPalette::ButtonText, QColor(0x1f, 0x29, 0x33));
+    palette.setColor(QPalette::Highlight, QColor(0x0f, 0x6b, 0x8f));
+    palette.setColor(QPalette::HighlightedText, Qt::white);
+    palette.setColor(QPalette::PlaceholderText, QColor(0x7b, 0x87, 0x94));
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, QColor(0x9a, 0xa5, 0xb1));
+    return palette;
+}
+
+// Title bars of panels carry the dynamic property "judul"; everything else is the style's.
+constexpr char16_t sheet[] = uR"(
+    *[judul="true"] { background: #0f4c64; color: white; padding: 5px 10px; font-weight: bold; }
+    QStatusBar { background: #e4e9ed; }
+    QStatusBar::item { border-right: 1px solid #c3ccd4; }
+)";
+
+} // namespace
+
+void applyTheme(QApplication& application) {
+    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setPalette(lightPalette());
+    application.setStyleSheet(QString::fromUtf16(sheet));
+}
