@@ -1,10 +1,22 @@
 #include "toolkit/data/client_data_set.h"
 
 #include <algorithm>
+#include <set>
 #include <span>
 #include <utility>
 
 namespace data {
+
+namespace {
+
+template <typename Action>
+void forEachChunk(const std::vector<RowId>& rows, Action&& action) {
+    constexpr size_t step = TableWriter::rowsPerStatement;
+    for (size_t from = 0; from < rows.size(); from += step)
+        action(std::span(rows).subspan(from, std::min(step, rows.size() - from)));
+}
+
+} // namespace
 
 ClientDataSet::ClientDataSet(Provider provider, QObject* parent) : DataSet(parent), m_provider(std::move(provider)) {}
 
@@ -35,7 +47,8 @@ void ClientDataSet::applyUpdates() {
     settle();
     const TableWriter writer(m_provider.table, fields(), m_provider.keys, m_provider.neverWritten);
     applyDeletes(writer);
-    applyUpdatedRows(writer);
+    parkWantedKeys(writer);
+    applyChangedRows(writer);
     applyInserts(writer);
 }
 
@@ -47,36 +60,68 @@ std::vector<RowId> ClientDataSet::changesOf(Kind kind) const {
     return rows;
 }
 
-void ClientDataSet::applyDeletes(const TableWriter& writer) {
-    const std::vector<RowId> rows = changesOf(Kind::Delete);
-    for (size_t from = 0; from < rows.size(); from += TableWriter::rowsPerStatement) {
-        const std::span chunk =
-            std::span(rows).subspan(from, std::min(TableWriter::rowsPerStatement, rows.size() - from));
-        std::vector<const Record*> records;
-        for (const RowId row : chunk)
-            records.push_back(&m_changes.at(row).loaded);
-        send(writer.deleteRows(records));
-        for (const RowId row : chunk)
-            m_changes.erase(row);
+std::vector<RowId> ClientDataSet::rowsInTheWay(const TableWriter& writer) const {
+    const std::vector<RowId> updates = changesOf(Kind::Update);
+    RowIndex holders(writer.keyFields(), Qt::CaseSensitive);
+    for (const RowId row : updates)
+        holders.add(row, m_changes.at(row).loaded);
+    std::set<RowId> inTheWay;
+    for (const RowId row : updates) {
+        const std::vector<QVariant> wanted = writer.keyOf(record(row));
+        for (const RowId holder : holders.candidates(wanted))
+            if (holder != row && holders.agrees(m_changes.at(holder).loaded, wanted))
+                inTheWay.insert(holder);
     }
+    return {inTheWay.begin(), inTheWay.end()};
 }
 
-void ClientDataSet::applyUpdatedRows(const TableWriter& writer) {
+void ClientDataSet::applyDeletes(const TableWriter& writer) {
+    forEachChunk(changesOf(Kind::Delete), [&](std::span<const RowId> rows) {
+        std::vector<const Record*> records;
+        for (const RowId row : rows)
+            records.push_back(&m_changes.at(row).loaded);
+        send(writer.deleteRows(records));
+        for (const RowId row : rows)
+            m_changes.erase(row);
+    });
+}
+
+void ClientDataSet::parkWantedKeys(const TableWriter& writer) {
+    const size_t field = size_t(writer.keyFields().back());
+    if (fields()[field].type != FieldType::Integer)
+        return;
+    // Rows that exchange keys would meet in the middle. Whoever stands in the way first steps aside to a negative
+    // number, which no key of the tables has; from there the ordinary update fetches it.
+    forEachChunk(rowsInTheWay(writer), [&](std::span<const RowId> rows) {
+        std::vector<Record> parked;
+        std::vector<RowUpdate> updates;
+        parked.reserve(rows.size());
+        for (const RowId row : rows) {
+            const Record& loaded = m_changes.at(row).loaded;
+            parked.push_back(loaded);
+            parked.back()[field] = -1 - loaded[field].toLongLong();
+            updates.push_back({.loaded = &loaded, .current = &parked.back()});
+        }
+        send(writer.updateRows(updates, {int(field)}));
+        for (size_t i = 0; i < rows.size(); ++i)
+            m_changes.at(rows[i]).loaded = parked[i];
+    });
+}
+
+void ClientDataSet::applyChangedRows(const TableWriter& writer) {
     std::map<std::vector<int>, std::vector<RowId>> groups;
     for (const RowId row : changesOf(Kind::Update))
         groups[writer.changedFields({.loaded = &m_changes.at(row).loaded, .current = &record(row)})].push_back(row);
-    for (const auto& [changed, rows] : groups) {
-        for (size_t from = 0; from < rows.size(); from += TableWriter::rowsPerStatement) {
-            const std::span chunk =
-                std::span(rows).subspan(from, std::min(TableWriter::rowsPerStatement, rows.size() - from));
+    for (const auto& [changed, members] : groups) {
+        forEachChunk(members, [&](std::span<const RowId> rows) {
             std::vector<RowUpdate> updates;
-            for (const RowId row : chunk)
+            for (const RowId row : rows)
                 updates.push_back({.loaded = &m_changes.at(row).loaded, .current = &record(row)});
             if (!changed.empty())
                 send(writer.updateRows(updates, changed));
-            for (const RowId row : chunk)
+            for (const RowId row : rows)
                 m_changes.erase(row);
-        }
+        });
     }
 }
 

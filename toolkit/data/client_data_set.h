@@ -23,8 +23,9 @@ public:
     explicit ClientDataSet(Provider provider, QObject* parent = nullptr);
 
     /// Ends a pending edit, then sends deletes, updates, inserts, in this order and many rows at a time. An update
-    /// writes only what differs from the loaded row; a row edited back sends nothing. Stops at the first statement
-    /// that fails by throwing db::Fault: what was applied by then is no longer pending, the rest still is.
+    /// writes only what differs from the loaded row; a row edited back sends nothing. Rows may exchange their keys.
+    /// Stops at the first statement that fails by throwing db::Fault: what was applied by then is no longer pending,
+    /// the rest still is.
     void applyUpdates();
     /// Changed rows that were not applied yet, rows edited back included.
     [[nodiscard]] size_t pendingChanges() const { return isOpen() ? m_changes.size() : 0; }
@@ -43,8 +44,10 @@ private:
     };
 
     [[nodiscard]] std::vector<RowId> changesOf(Kind kind) const;
+    [[nodiscard]] std::vector<RowId> rowsInTheWay(const TableWriter& writer) const;
     void applyDeletes(const TableWriter& writer);
-    void applyUpdatedRows(const TableWriter& writer);
+    void parkWantedKeys(const TableWriter& writer);
+    void applyChangedRows(const TableWriter& writer);
     void applyInserts(const TableWriter& writer);
     void send(const QString& sql) { m_provider.query->connection().execute(sql); }
 

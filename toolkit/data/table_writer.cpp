@@ -46,6 +46,13 @@ std::vector<int> TableWriter::changedFields(const RowUpdate& row) const {
     return changed;
 }
 
+std::vector<QVariant> TableWriter::keyOf(const Record& record) const {
+    std::vector<QVariant> key;
+    for (const int field : m_keys)
+        key.push_back(record[size_t(field)]);
+    return key;
+}
+
 QString TableWriter::deleteRows(std::span<const Record* const> rows) const {
     QString sql = QStringLiteral("DELETE FROM %1 WHERE ").arg(quotedName(m_table));
     const QString last = columnOf(m_keys.back());

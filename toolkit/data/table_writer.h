@@ -30,6 +30,8 @@ public:
     [[nodiscard]] std::vector<int> changedFields(const RowUpdate& row) const;
     [[nodiscard]] const std::vector<int>& keyFields() const { return m_keys; }
 
+    [[nodiscard]] std::vector<QVariant> keyOf(const Record& record) const;
+
     [[nodiscard]] QString deleteRows(std::span<const Record* const> rows) const;
     /// Sets the same fields in every row.
     [[nodiscard]] QString updateRows(std::span<const RowUpdate> rows, const std::vector<int>& changed) const;

@@ -1,0 +1,272 @@
+#include "tests/data/listing.h"
+#include "tests/support/test_database.h"
+#include "toolkit/data/client_data_set.h"
+#include "toolkit/data/fault.h"
+#include "toolkit/data/mem_table.h"
+
+#include <algorithm>
+#include <random>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TestDatabase& database() {
+    static TestDatabase shared;
+    return shared;
+}
+
+/// A table of five columns with a key of two, and a working copy of it that shows one column more.
+class Apply : public testing::Test {
+protected:
+    Apply() :
+        query(connection, u"SELECT t.*, 0 AS pilih FROM t ORDER BY a, b"_s),
+        copy({.query = &query, .table = u"t"_s, .keys = {u"a"_s, u"b"_s}, .neverWritten = {u"PILIH"_s}}) {
+        database().run(
+            u"DROP TABLE IF EXISTS t;\n"
+            "CREATE TABLE t (a int NOT NULL, b smallint NOT NULL, v double DEFAULT 7, s varchar(1000), d date, "
+            "m datetime, PRIMARY KEY (a, b));\n"
+            "INSERT INTO t VALUES (1, 1, 10, 'satu', NULL, NULL), (1, 2, 20, 'dua', NULL, NULL), "
+            "(1, 3, 30, 'tiga', NULL, NULL), (2, 1, 40, 'empat', NULL, NULL);\n"_s);
+        connection.configure(database().mainSettings());
+        copy.events.newRecord = [this] { copy.setValue(u"pilih", 0); };
+        copy.open();
+    }
+
+    void change(int row, QStringView field, const QVariant& value) {
+        copy.goToRow(row);
+        copy.editValue(field, value);
+        copy.post();
+    }
+    void removeAt(int row) {
+        copy.goToRow(row);
+        copy.remove();
+    }
+    /// Statements that an apply sends.
+    qint64 applied() {
+        const qint64 before = connection.statementCount();
+        copy.applyUpdates();
+        return connection.statementCount() - before;
+    }
+    std::string sortedListing() {
+        copy.setOrder({u"a"_s, u"b"_s});
+        copy.first();
+        return listing(copy);
+    }
+    static QStringList stored(const QString& columns = u"a, b, v, s"_s) {
+        return database().rows(u"SELECT "_s + columns + u" FROM t ORDER BY a, b"_s);
+    }
+
+    db::Connection connection;
+    data::SqlQuery query;
+    data::ClientDataSet copy;
+};
+
+} // namespace
+
+TEST_F(Apply, SendsDeletesUpdatesAndInsertsByKey) {
+    removeAt(0);
+    change(0, u"v", 21.5);
+    change(1, u"v", 31);
+    change(2, u"s", u"EMPAT"_s);
+    add(copy, {3, 1, 50, u"lima"_s, QDate(2024, 2, 29), QDateTime(QDate(2024, 2, 29), QTime(8, 30)), -1});
+    add(copy, {3, 2});
+    EXPECT_EQ(stored().size(), 4) << "nothing reaches the server before";
+    EXPECT_EQ(copy.pendingChanges(), 6u);
+    EXPECT_EQ(applied(), 4) << "one delete, one update for each set of fields, one insert";
+    EXPECT_EQ(copy.pendingChanges(), 0u);
+    EXPECT_EQ(stored(u"*"_s),
+              QStringList({u"1\t2\t21.5\tdua\tNULL\tNULL"_s, u"1\t3\t31\ttiga\tNULL\tNULL"_s,
+                           u"2\t1\t40\tEMPAT\tNULL\tNULL"_s, u"3\t1\t50\tlima\t2024-02-29\t2024-02-29 08:30:00"_s,
+                           u"3\t2\t7\tNULL\tNULL\tNULL"_s}));
+    EXPECT_EQ(applied(), 0);
+}
+
+TEST_F(Apply, SendsNothingForWhatCameBackToItsLoadedState) {
+    change(0, u"v", 99);
+    change(0, u"v", 10);
+    change(1, u"pilih", -1);
+    copy.goToRow(2);
+    copy.edit();
+    copy.post();
+    add(copy, {9, 9});
+    copy.remove();
+    copy.append();
+    EXPECT_EQ(applied(), 0);
+    EXPECT_EQ(copy.state(), data::State::Browse);
+}
+
+TEST_F(Apply, WritesOnlyTheFieldsThatDiffer) {
+    change(0, u"v", 11);
+    database().run(u"UPDATE t SET s='lain' WHERE a=1 AND b=1"_s);
+    copy.applyUpdates();
+    EXPECT_EQ(stored().first(), u"1\t1\t11\tlain");
+}
+
+TEST_F(Apply, FindsARowByTheKeyItWasLoadedWith) {
+    change(0, u"b", 7);
+    change(0, u"s", u"pindah"_s);
+    change(1, u"b", 8);
+    removeAt(1);
+    add(copy, {1, 1, 5, u"baru"_s});
+    copy.applyUpdates();
+    EXPECT_EQ(stored(),
+              QStringList({u"1\t1\t5\tbaru"_s, u"1\t3\t30\ttiga"_s, u"1\t7\t10\tpindah"_s, u"2\t1\t40\tempat"_s}));
+}
+
+TEST_F(Apply, LetsRowsExchangeTheirKeys) {
+    change(0, u"b", 2);
+    change(1, u"b", 3);
+    change(2, u"b", 1);
+    copy.applyUpdates();
+    EXPECT_EQ(stored(),
+              QStringList({u"1\t1\t30\ttiga"_s, u"1\t2\t10\tsatu"_s, u"1\t3\t20\tdua"_s, u"2\t1\t40\tempat"_s}));
+    change(0, u"v", 11);
+    copy.applyUpdates();
+    EXPECT_EQ(stored().at(1), u"1\t2\t11\tsatu");
+}
+
+TEST_F(Apply, StopsAtTheFirstFailingStatementAndKeepsTheRestPending) {
+    removeAt(3);
+    change(0, u"v", 11);
+    const QString longText(1000, u'x');
+    for (int b = 4; b < 904; ++b)
+        add(copy, {1, b == 500 ? 1 : b, 0, longText});
+    EXPECT_THROW(copy.applyUpdates(), db::Fault);
+    const qint64 written = stored().size();
+    EXPECT_GT(written, 200);
+    EXPECT_LT(written, 500);
+    EXPECT_EQ(qint64(copy.pendingChanges()), 903 - written);
+    EXPECT_EQ(stored().first(), u"1\t1\t11\tsatu");
+    ASSERT_TRUE(copy.locate({{u"a", 1}, {u"b", 1}, {u"s", longText}}));
+    copy.editValue(u"b", 500);
+    copy.applyUpdates();
+    EXPECT_EQ(stored().size(), 903);
+    EXPECT_EQ(copy.pendingChanges(), 0u);
+}
+
+TEST_F(Apply, RefusesANumberThatItsColumnWouldClip) {
+    add(copy, {1, 32767});
+    add(copy, {1, 32768});
+    try {
+        copy.applyUpdates();
+        FAIL() << "no fault";
+    } catch (const db::Fault& fault) {
+        EXPECT_EQ(fault.code(), 0u);
+        EXPECT_STREQ(fault.what(), "32768 does not fit column 'b' of 't', which has 16 bits");
+    }
+    EXPECT_EQ(copy.pendingChanges(), 2u);
+    EXPECT_EQ(stored().size(), 4);
+}
+
+TEST_F(Apply, LetsTheServerCutATextToItsColumn) {
+    change(0, u"s", QString(1200, u'y'));
+    add(copy, {5, 5, 0, QString(1200, u'z')});
+    copy.applyUpdates();
+    EXPECT_EQ(stored(u"length(s)"_s), QStringList({u"1000"_s, u"3"_s, u"4"_s, u"5"_s, u"1000"_s}));
+}
+
+TEST_F(Apply, CarriesEveryTextAndNumberUnchanged) {
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    const QString signs = u"'\"\\`%_;:?#-/*\n\r\t\0 aZ0é€"_s + QString::fromUtf8("\xF0\x9F\x98\x80");
+    const auto randomText = [&] {
+        QString text;
+        for (int i = int(random() % 12); i > 0; --i)
+            text += signs[qsizetype(random() % size_t(signs.size() - 2))];
+        return text + (random() % 2 ? signs.right(2) : QString());
+    };
+    const auto randomReal = [&] { return std::ldexp(double(random()) - 2e9, int(random() % 200) - 100); };
+    for (int b = 10; b < 400; ++b)
+        add(copy, {1, b, random() % 5 ? QVariant(randomReal()) : QVariant(0), randomText()});
+    copy.applyUpdates();
+    const std::string inserted = sortedListing();
+    copy.reopen();
+    EXPECT_TRUE(sortedListing() == inserted);
+    for (int row = 0; row < copy.recordCount(); ++row) {
+        change(row, u"s", random() % 7 ? QVariant(randomText()) : QVariant());
+        change(row, u"v", random() % 7 ? QVariant(randomReal()) : QVariant());
+    }
+    copy.applyUpdates();
+    const std::string changed = sortedListing();
+    EXPECT_TRUE(changed != inserted);
+    copy.reopen();
+    EXPECT_TRUE(sortedListing() == changed);
+}
+
+TEST_F(Apply, GivesTheServerWhatTheCopyShowsAfterRandomChanges) {
+    const unsigned seed = std::random_device{}();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    copy.setOrder({u"a"_s, u"b"_s});
+    for (int round = 0; round < 6; ++round) {
+        for (int i = 0; i < 400; ++i)
+            add(copy, {round + 10, i, int(random() % 1000)});
+        for (int i = 0; i < 150; ++i)
+            removeAt(int(random() % size_t(copy.recordCount())));
+        // Every remaining row of the newest group takes the number of another one.
+        copy.setFilter(u"a"_s, round + 9);
+        std::vector<data::RowId> rows;
+        QVariantList numbers;
+        for (copy.first(); !copy.isEof(); copy.next()) {
+            rows.push_back(*copy.bookmark());
+            numbers << copy.value(u"b");
+        }
+        std::ranges::shuffle(numbers, random);
+        for (size_t i = 0; i < rows.size(); ++i) {
+            ASSERT_TRUE(copy.goToBookmark(rows[i]));
+            copy.editValue(u"b", numbers[qsizetype(i)]);
+            copy.post();
+        }
+        copy.clearFilter();
+        copy.applyUpdates();
+        const std::string shown = sortedListing();
+        copy.reopen();
+        ASSERT_TRUE(sortedListing() == shown) << "round " << round;
+    }
+}
+
+TEST_F(Apply, DoesNotFeelAStrictServer) {
+    database().run(u"SET GLOBAL sql_mode='STRICT_ALL_TABLES,ONLY_FULL_GROUP_BY,NO_ZERO_DATE'"_s);
+    db::Connection fresh;
+    fresh.configure(database().mainSettings());
+    data::SqlQuery rows(fresh, query.sql());
+    data::ClientDataSet other(
+        {.query = &rows, .table = u"t"_s, .keys = {u"a"_s, u"b"_s}, .neverWritten = {u"pilih"_s}});
+    other.open();
+    add(other, {5, 5, 0, QString(1200, u'z')});
+    EXPECT_NO_THROW(other.applyUpdates());
+    database().run(u"SET GLOBAL sql_mode=''"_s);
+}
+
+TEST_F(Apply, QueryFollowsTheRecordOfItsMaster) {
+    data::MemTable master(integerFields({u"a"_s}));
+    master.open();
+    data::SqlQuery detail(connection, u"SELECT s FROM t WHERE a=:a AND b>:low ORDER BY b"_s);
+    detail.follow(master, {u"a"_s});
+    detail.setParameter(u"low"_s, 1);
+    detail.open();
+    EXPECT_EQ(listing(detail), "") << "no master record, no rows";
+    master.append();
+    master.setValue(u"a", 1);
+    detail.reopen();
+    EXPECT_EQ(listing(detail), "[dua] | tiga");
+    EXPECT_THROW(detail.edit(), data::Fault);
+    EXPECT_THROW(detail.openSql(u"SELECT :unknown"_s), db::Fault);
+    EXPECT_FALSE(detail.isOpen());
+}
+
+TEST_F(Apply, QueryGivesEachColumnItsType) {
+    data::SqlQuery types(connection,
+                         u"SELECT 1 AS i, 1.5 AS r, 'x' AS s, DATE('2024-02-29') AS d, "
+                         "TIMESTAMP('2024-02-29 10:11:12') AS m, NULL AS n, CAST('0000-00-00' AS date) AS z"_s);
+    types.open();
+    EXPECT_EQ(listing(types), "[1 1.5 x 2024-02-29 2024-02-29 10:11:12 NULL NULL]");
+    const auto is = [&](QStringView field, data::FieldType type) {
+        return types.fields()[size_t(types.fieldIndex(field))].type == type;
+    };
+    using data::FieldType;
+    EXPECT_TRUE(is(u"i", FieldType::Integer) && is(u"r", FieldType::Real) && is(u"s", FieldType::Text));
+    EXPECT_TRUE(is(u"d", FieldType::Date) && is(u"m", FieldType::Moment));
+}
