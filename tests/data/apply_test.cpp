@@ -227,6 +227,22 @@ TEST_F(Apply, GivesTheServerWhatTheCopyShowsAfterRandomChanges) {
     }
 }
 
+TEST_F(Apply, LeavesToTheServerWhatNobodyFilledIn) {
+    database().run(u"DROP TABLE IF EXISTS u;\n"
+                   "CREATE TABLE u (a int PRIMARY KEY, n int NOT NULL, s varchar(5) NOT NULL, f int DEFAULT -1);\n"_s);
+    data::SqlQuery rows(connection, u"SELECT u.*, 'lain' AS s FROM u"_s);
+    data::ClientDataSet other({.query = &rows, .table = u"u"_s, .keys = {u"a"_s}});
+    other.open();
+    add(other, {1});
+    other.applyUpdates();
+    add(other, {2});
+    add(other, {3, 4, u"lima"_s, 6});
+    other.applyUpdates();
+    EXPECT_EQ(database().rows(u"SELECT * FROM u ORDER BY a"_s),
+              QStringList({u"1\t0\t\t-1"_s, u"2\t0\t\t-1"_s, u"3\t4\tlima\t6"_s}))
+        << "one row or many, and though the query shows two columns of one name";
+}
+
 TEST_F(Apply, DoesNotFeelAStrictServer) {
     database().run(u"SET GLOBAL sql_mode='STRICT_ALL_TABLES,ONLY_FULL_GROUP_BY,NO_ZERO_DATE'"_s);
     db::Connection fresh;

@@ -195,6 +195,7 @@ void DataSet::applyFilter() {
     }
     if (!isOpen())
         return;
+    place(0);
     tellViews(&DataSet::reset);
     first();
 }

@@ -32,8 +32,10 @@ TableWriter::TableWriter(const QString& table, const std::vector<Field>& fields,
     m_fields(fields) {
     for (const QString& key : keys)
         m_keys.push_back(indexOfField(fields, key));
+    // Of two fields with one name the first is the table's own, as it is for reading.
     for (size_t i = 0; i < fields.size(); ++i)
-        if (!neverWritten.contains(fields[i].name, Qt::CaseInsensitive))
+        if (indexOfField(fields, fields[i].name) == int(i) &&
+            !neverWritten.contains(fields[i].name, Qt::CaseInsensitive))
             m_written.push_back(int(i));
     if (m_table.isEmpty() || m_keys.empty())
         throw Fault(QStringLiteral("The data set has no table to write to"));
