@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
     char gate = 0;
     if (::read(STDIN_FILENO, &gate, 1) != 1)
         return EXIT_FAILURE;
-    platform::InstanceGuard guard;
+    platform::InstanceGuard guard(platform::runningProgram());
     if (guard.CheckPreviousInstance()) {
         std::cout << "second" << std::endl;
         return EXIT_SUCCESS;

@@ -164,6 +164,15 @@ TEST_F(Instances, APlaceGivenUpIsFreeAndAStarterThatNeverHeldItTakesNothingAway)
     EXPECT_FALSE(second.CheckPreviousInstance());
 }
 
+TEST_F(Instances, TwoRoadsToOneFileAreOneProgram) {
+    const QString program = installed(QStringLiteral("a"));
+    QFile::link(m_root.filePath(QStringLiteral("a")), m_root.filePath(QStringLiteral("b")));
+    InstanceGuard first(program);
+    EXPECT_FALSE(first.CheckPreviousInstance());
+    for (const QString& road : {QStringLiteral("b/program"), QStringLiteral("a/../a/program")})
+        EXPECT_TRUE(InstanceGuard(m_root.filePath(road)).CheckPreviousInstance()) << road.toStdString();
+}
+
 TEST_F(Instances, StartsBeforeListeningAreToldThenAndABusyHolderKeepsItsPlace) {
     const QString path = m_root.filePath(QStringLiteral("program"));
     InstanceGuard first(path);

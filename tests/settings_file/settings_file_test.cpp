@@ -109,6 +109,11 @@ TEST_F(SettingsFile, BrokenFilesRaiseAndForeignFieldsReadAaa) {
     }
 }
 
+TEST_F(SettingsFile, FourFieldsAreTooFewToShow) {
+    write(coded("u") + ' ' + coded("s") + ' ' + coded("p") + ' ' + coded("d"));
+    EXPECT_THROW(static_cast<void>(readSettingsFields(m_path)), SettingsFileError);
+}
+
 TEST_F(SettingsFile, AMissingFileOrAFolderInItsPlaceRaisesAndNamesThePath) {
     EXPECT_EQ(read(), "raises");
     m_path = m_folder.path();

@@ -1,5 +1,6 @@
 #include "frame/settings_file/settings_file.h"
 
+#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -15,8 +16,9 @@ struct Outcome {
     std::string errors;
 };
 
-Outcome tvk(const QStringList& arguments, const QByteArray& input = {}) {
+Outcome tvk(const QTemporaryDir& folder, const QStringList& arguments, const QByteArray& input = {}) {
     QProcess process;
+    process.setWorkingDirectory(folder.path());
     process.start(QStringLiteral(TVK_PROGRAM), arguments);
     process.write(input);
     process.closeWriteChannel();
@@ -33,9 +35,9 @@ QStringList words(const char* text) {
 
 TEST(Tvk, WritesWhatTheProgramReadsAndShowsAllButThePassword) {
     const QTemporaryDir folder;
-    const QString path = folder.filePath(QStringLiteral("user.tvk"));
     const QStringList arguments = words("--user gaji --server db.local --password - --database orvane --port 3307");
-    const Outcome written = tvk(QStringList(path) + arguments, "kata sandi-é\nsecond line");
+    const Outcome written =
+        tvk(folder, QStringList(QStringLiteral("user.tvk")) + arguments, "kata sandi-é\nsecond line");
     EXPECT_EQ(written.exitCode, 0) << written.errors;
     EXPECT_EQ(written.output + written.errors, "");
     const settings::DatabaseSettings expected{.user = QStringLiteral("gaji"),
@@ -43,8 +45,8 @@ TEST(Tvk, WritesWhatTheProgramReadsAndShowsAllButThePassword) {
                                               .password = QStringLiteral("kata sandi-é"),
                                               .database = QStringLiteral("orvane"),
                                               .port = 3307};
-    EXPECT_EQ(settings::readSettingsFile(path), expected);
-    const Outcome shown = tvk({path, QStringLiteral("--show")});
+    EXPECT_EQ(settings::readSettingsFile(folder.filePath(QStringLiteral("user.tvk"))), expected);
+    const Outcome shown = tvk(folder, {QStringLiteral("user.tvk"), QStringLiteral("--show")});
     EXPECT_EQ(shown.exitCode, 0);
     EXPECT_EQ(shown.output,
               "user:     gaji\nserver:   db.local\npassword: (hidden)\ndatabase: orvane\nport:     3307\n");
@@ -63,10 +65,12 @@ TEST(Tvk, WrongUseSaysWhatIsWrongAndWritesNothing) {
         {"no/such/folder/x.tvk --user u --server s --password p --database d --port 1",
          "no/such/folder/x.tvk: No such file or directory"},
     };
+    const QTemporaryDir folder;
     for (const auto& [arguments, message] : cases) {
-        const Outcome run = tvk(QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
+        const Outcome run = tvk(folder, QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
         EXPECT_EQ(run.exitCode, 2) << arguments;
         EXPECT_EQ(run.errors.substr(0, run.errors.find('\n')), std::string("tvk: ") + message) << arguments;
         EXPECT_EQ(run.output, "") << arguments;
+        EXPECT_TRUE(folder.isValid() && QDir(folder.path()).isEmpty()) << arguments;
     }
 }

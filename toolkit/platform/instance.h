@@ -20,7 +20,7 @@ class InstanceGuard final : public QObject {
 
 public:
     /// Symbolic links in `programPath` are resolved, so two roads to one file are one program.
-    explicit InstanceGuard(const QString& programPath = runningProgram());
+    explicit InstanceGuard(const QString& programPath);
     ~InstanceGuard() override;
 
     /// True where another instance runs and this process must end; that instance has then been asked to raise itself.
