@@ -1,0 +1,102 @@
+#include "run/totals.h"
+
+#include "toolkit/data/drop_fault.h"
+#include "toolkit/text/money.h"
+
+#include <algorithm>
+
+namespace run {
+
+namespace {
+
+/// Rounds the rows of a line in place; gives earnings minus deductions.
+qint32 netOf(RunView& view, int line) {
+    qint32 earnings = 0;
+    qint32 deductions = 0;
+    data::dropFault("the remaining rows of a line's total", [&] {
+        for (int row = 0; row < view.rowCount(line); ++row) {
+            const RowAmount amount = view.row(line, row);
+            const qint32 whole = wrapped32(wholeRupiah(moneyOfRupiah(amount.subtot_payroll)));
+            view.setAmount(line, row, whole);
+            qint32& sum = amount.type == 0 ? earnings : deductions;
+            sum = wrappedSum(sum, whole);
+        }
+    });
+    return wrappedDifference(earnings, deductions);
+}
+
+/// Up to the next multiple of the unit; a multiple and what is not positive stay.
+qint32 raisedToUnit(qint32 net, qint32 unit) {
+    if (unit <= 0)
+        return net;
+    const qint32 remainder = net % unit;
+    return remainder > 0 ? wrappedSum(wrappedDifference(net, remainder), unit) : net;
+}
+
+/// A run in memory as a view. Deleted lines stay in place until dropDeletedLines, since taking each out of the middle
+/// would move all behind it.
+class RunInMemory final : public RunView {
+public:
+    explicit RunInMemory(Run& run) : m_run(run), m_deleted(run.lines.size()) {}
+
+    [[nodiscard]] int lineCount() const override { return int(m_run.lines.size()); }
+    [[nodiscard]] int rowCount(int line) const override { return int(at(line).rows.size()); }
+    [[nodiscard]] RowAmount row(int line, int row) const override {
+        const Row& found = at(line).rows[std::size_t(row)];
+        return {found.type, found.subtot_payroll};
+    }
+    void setAmount(int line, int row, double subtot_payroll) override {
+        at(line).rows[std::size_t(row)].subtot_payroll = subtot_payroll;
+    }
+    [[nodiscard]] double tot_payroll(int line) const override { return at(line).tot_payroll; }
+    void setTotal(int line, double tot_payroll) override { at(line).tot_payroll = tot_payroll; }
+    void deleteRow(int line, int row) override { m_run.deleteRow(at(line), std::size_t(row)); }
+    void deleteLine(int line) override {
+        m_run.emptyLine(at(line));
+        m_deleted[std::size_t(line)] = true;
+    }
+    void dropDeletedLines() {
+        std::size_t line = 0;
+        std::erase_if(m_run.lines, [&](const Line&) { return m_deleted[line++]; });
+    }
+
+private:
+    [[nodiscard]] Line& at(int line) const { return m_run.lines[std::size_t(line)]; }
+
+    Run& m_run;
+    std::vector<bool> m_deleted;
+};
+
+} // namespace
+
+double hitung(RunView& view, double round_value) {
+    qint32 total = 0;
+    data::dropFault("the remaining lines of a run's total", [&] {
+        for (int line = 0; line < view.lineCount(); ++line) {
+            const qint32 net = netOf(view, line);
+            const qint32 tot_payroll = raisedToUnit(net, rounded32(round_value));
+            view.setTotal(line, tot_payroll);
+            total = wrappedSum(total, tot_payroll);
+        }
+    });
+    return total;
+}
+
+void hitung2(RunView& view) {
+    for (int line = view.lineCount() - 1; line >= 0; --line) {
+        for (int row = view.rowCount(line) - 1; row >= 0; --row)
+            if (view.row(line, row).subtot_payroll <= 0)
+                view.deleteRow(line, row);
+        if (view.tot_payroll(line) <= 0)
+            view.deleteLine(line);
+    }
+}
+
+void hitung(Run& run, double round_value) {
+    RunInMemory view(run);
+    run.tot_process = hitung(view, round_value);
+    hitung2(view);
+    view.dropDeletedLines();
+}
+
+} // namespace run

@@ -1,0 +1,82 @@
+#include "toolkit/text/money.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// What a computation gives, or "fault".
+template <typename Compute>
+std::string outcome(Compute&& compute) {
+    try {
+        return std::to_string(compute());
+    } catch (const ArithmeticFault&) {
+        return "fault";
+    }
+}
+
+} // namespace
+
+TEST(Rounding, GoesToTheNearestWholeNumberAndOnATieToTheEvenOne) {
+    const std::vector<std::pair<Extended, std::string>> cases = {
+        {2.5L, "2"}, {3.5L, "4"}, {-2.5L, "-2"}, {-3.5L, "-4"}, {2.5000000000000001L, "3"}, {0.49L, "0"},
+    };
+    for (const auto& [value, expected] : cases)
+        EXPECT_EQ(outcome([&] { return rounded64(value); }), expected);
+}
+
+TEST(Rounding, RefusesWhatDoesNotFitTheInteger) {
+    EXPECT_EQ(outcome([] { return rounded64(0x1p63L - 1); }), "9223372036854775807");
+    EXPECT_EQ(outcome([] { return rounded64(0x1p63L - 0.5L); }), "fault");
+    EXPECT_EQ(outcome([] { return rounded64(-0x1p63L); }), "-9223372036854775808");
+    EXPECT_EQ(outcome([] { return rounded64(-0x1p63L - 1.5L); }), "fault");
+    EXPECT_EQ(outcome([] { return rounded32(2147483647.5L); }), "fault");
+    EXPECT_EQ(outcome([] { return rounded32(2147483646.5L); }), "2147483646");
+    EXPECT_EQ(outcome([] { return rounded64(std::numeric_limits<Extended>::infinity()); }), "fault");
+    EXPECT_EQ(outcome([] { return rounded64(std::numeric_limits<Extended>::quiet_NaN()); }), "fault");
+    EXPECT_EQ(outcome([] { return double(quotient(0, 0)); }), "fault");
+}
+
+TEST(Rounding, OfDecimalsLiftsATie) {
+    const std::vector<std::pair<double, double>> cases = {{0.125, 0.13},   {0.375, 0.38},           {0.12489, 0.12},
+                                                          {0.12495, 0.13}, {-0.125, -0.12},         {7.5, 7.5},
+                                                          {0, 0},          {1e13 + 0.5, 1e13 + 0.5}};
+    for (const auto& [value, expected] : cases)
+        EXPECT_EQ(bulat_desimal(value), expected) << value;
+    EXPECT_EQ(outcome([] { return bulat_desimal(1e17); }), "fault");
+}
+
+TEST(Wrapping, ComesBackFromTheOtherEnd) {
+    EXPECT_EQ(wrapped32(2147483648), -2147483648LL);
+    EXPECT_EQ(wrapped32(4294967297), 1);
+    EXPECT_EQ(wrapped32(-2147483649), 2147483647);
+    EXPECT_EQ(wrappedSum(2147483647, 1), -2147483648LL);
+    EXPECT_EQ(wrappedDifference(-2147483648LL, 1), 2147483647);
+}
+
+TEST(Money, KeepsFourDecimalsAndShowsWholeRupiah) {
+    struct Case {
+        double rupiah;
+        qint64 units;
+        qint64 whole;
+        const char* text;
+    };
+    const std::vector<Case> cases = {
+        {1500.5, 15005000, 1500, "1.500"},
+        {1501.5, 15015000, 1502, "1.502"},
+        {1500.50004, 15005000, 1500, "1.500"},
+        {1500.50006, 15005001, 1501, "1.501"},
+        {-1500.5, -15005000, -1500, "-1.500"},
+        {-0.3, -3000, 0, "0"},
+        {1500000, 15000000000, 1500000, "1.500.000"},
+        {922337203685477, 9223372036854770000, 922337203685477, "922.337.203.685.477"},
+        // Ten-thousandths of a rupiah that plain double arithmetic would put on a tie and round down.
+        {0.00025, 3, 0, "0"},
+    };
+    for (const Case& c : cases) {
+        const Money money = moneyOfRupiah(c.rupiah);
+        EXPECT_EQ(money.units, c.units) << c.rupiah;
+        EXPECT_EQ(wholeRupiah(money), c.whole) << c.rupiah;
+        EXPECT_EQ(moneyText(money).toStdString(), c.text) << c.rupiah;
+    }
+    EXPECT_EQ(outcome([] { return moneyOfRupiah(922337203685478).units; }), "fault");
+}
