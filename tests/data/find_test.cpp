@@ -60,6 +60,7 @@ TEST_F(Find, LocateTakesTheFirstShownMatch) {
         {{{u"line", 2}, {u"code", u"Makan"_s}}, Qt::CaseSensitive, 3, 1},
         {{{u"code", u"makan"_s}, {u"line", u"1"_s}}, Qt::CaseInsensitive, 2, -1},
         {{{u"code", QVariant()}}, Qt::CaseSensitive, 4, -1},
+        {{{u"code", u""_s}}, Qt::CaseSensitive, -1, -1},
         {{{u"line", 3}}, Qt::CaseSensitive, -1, -1},
     };
     for (const Case& one : cases)
@@ -67,6 +68,9 @@ TEST_F(Find, LocateTakesTheFirstShownMatch) {
     set.setFilter(u"line"_s, 2);
     for (const Case& one : cases)
         EXPECT_EQ(set.rowOf(one.matches, one.sensitivity), one.underFilter2);
+    set.setFilter(u"code"_s, u"pokok"_s);
+    EXPECT_EQ(set.rowOf({{u"line", 1}}, Qt::CaseInsensitive), -1)
+        << "the filter minds the case, whatever a search does";
 }
 
 TEST_F(Find, LocateMovesOnlyWhenItFinds) {

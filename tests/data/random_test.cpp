@@ -35,10 +35,10 @@ public:
     void remove(int serial) {
         std::erase_if(m_rows, [serial](const Row& row) { return row.serial == serial; });
     }
-    [[nodiscard]] int find(std::optional<int> a, int b) const {
+    [[nodiscard]] int find(std::optional<int> a, std::optional<int> b) const {
         const std::vector<Row> rows = shown();
         for (size_t i = 0; i < rows.size(); ++i)
-            if ((!a || rows[i].a == *a) && rows[i].b == b)
+            if ((!a || rows[i].a == *a) && (!b || rows[i].b == *b))
                 return int(i);
         return -1;
     }
@@ -87,6 +87,7 @@ public:
         for (int b = 0; b < 5; ++b) {
             const int a = pick(5);
             ASSERT_EQ(m_set.rowOf({{u"b", b}}), m_model.find({}, b));
+            ASSERT_EQ(m_set.rowOf({{u"a", a}}), m_model.find(a, {}));
             ASSERT_EQ(m_set.rowOf({{u"a", a}, {u"b", b}}), m_model.find(a, b));
         }
     }

@@ -112,22 +112,25 @@ void ClientDataSet::applyChangedRows(const TableWriter& writer) {
     std::map<std::vector<int>, std::vector<RowId>> groups;
     for (const RowId row : changesOf(Kind::Update))
         groups[writer.changedFields({.loaded = &m_changes.at(row).loaded, .current = &record(row)})].push_back(row);
-    for (const auto& [changed, members] : groups) {
-        forEachChunk(members, [&](std::span<const RowId> rows) {
-            std::vector<RowUpdate> updates;
-            for (const RowId row : rows)
-                updates.push_back({.loaded = &m_changes.at(row).loaded, .current = &record(row)});
-            if (!changed.empty())
-                send(writer.updateRows(updates, changed));
-            for (const RowId row : rows)
-                m_changes.erase(row);
-        });
-    }
+    for (const auto& group : groups)
+        forEachChunk(group.second, [&](std::span<const RowId> rows) { updateRows(writer, rows, group.first); });
+}
+
+void ClientDataSet::updateRows(const TableWriter& writer, std::span<const RowId> rows,
+                               const std::vector<int>& changed) {
+    std::vector<RowUpdate> updates;
+    for (const RowId row : rows)
+        updates.push_back({.loaded = &m_changes.at(row).loaded, .current = &record(row)});
+    if (!changed.empty())
+        send(writer.updateRows(updates, changed));
+    for (const RowId row : rows)
+        m_changes.erase(row);
 }
 
 void ClientDataSet::applyInserts(const TableWriter& writer) {
     const std::vector<RowId> rows = changesOf(Kind::Insert);
     std::vector<const Record*> records;
+    records.reserve(rows.size());
     for (const RowId row : rows)
         records.push_back(&record(row));
     for (size_t from = 0; from < rows.size();) {

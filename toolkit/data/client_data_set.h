@@ -4,6 +4,7 @@
 #include "toolkit/data/table_writer.h"
 
 #include <map>
+#include <span>
 
 namespace data {
 
@@ -48,6 +49,7 @@ private:
     void applyDeletes(const TableWriter& writer);
     void parkWantedKeys(const TableWriter& writer);
     void applyChangedRows(const TableWriter& writer);
+    void updateRows(const TableWriter& writer, std::span<const RowId> rows, const std::vector<int>& changed);
     void applyInserts(const TableWriter& writer);
     void send(const QString& sql) { m_provider.query->connection().execute(sql); }
 

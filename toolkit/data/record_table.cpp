@@ -30,7 +30,7 @@ Record RecordTable::replace(RowId row, Record record) {
     leave(m_all, row);
     if (m_filter && isVisible(row))
         leave(m_filtered, row);
-    const Record before = std::exchange(m_records[row], std::move(record));
+    Record before = std::exchange(m_records[row], std::move(record));
     for (RowIndex& index : m_indexes) {
         if (index.isSameKey(before, m_records[row]))
             continue;

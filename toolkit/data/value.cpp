@@ -107,9 +107,9 @@ QDateTime momentOf(const QVariant& value) {
         return value.toDateTime();
     if (value.typeId() == QMetaType::QDate)
         return value.toDate().startOfDay();
-    const QDateTime moment = value.typeId() == QMetaType::QString
-                                 ? QDateTime::fromString(value.toString().trimmed(), Qt::ISODate)
-                                 : QDateTime();
+    QDateTime moment;
+    if (value.typeId() == QMetaType::QString)
+        moment = QDateTime::fromString(value.toString().trimmed(), Qt::ISODate);
     if (!moment.isValid())
         refuse(value, "a date");
     return moment;
