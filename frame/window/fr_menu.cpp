@@ -1,6 +1,7 @@
 #include "frame/window/fr_menu.h"
 
 #include "frame/base/connect.h"
+#include "frame/base/fr_userlog.h"
 #include "schema/settings_keys.h"
 #include "toolkit/data/drop_fault.h"
 #include "toolkit/ui/handler.h"
@@ -30,12 +31,10 @@ qint32 integerOf(const QString& text) {
 
 Tfrm_menu::Tfrm_menu(QString folder, frame::Clock clock, frame::UserSettingReader readUserSetting) :
     m_ui(std::make_unique<Ui::frm_menu>()), m_folder(std::move(folder)), m_readUserSetting(std::move(readUserSetting)),
-    m_session(std::move(clock)) {
+    m_services(std::move(clock), this) {
     m_ui->setupUi(this);
     m_ui->StatusBar->setPanelCount(panelCount);
-    Msd_Konfirmasi.setObjectName(QStringLiteral("Msd_Konfirmasi"));
-    Msd_Error.setObjectName(QStringLiteral("Msd_Error"));
-    Msd_Informasi.setObjectName(QStringLiteral("Msd_Informasi"));
+    onEvent(m_ui->btn_userlog, &QPushButton::clicked, this, &Tfrm_menu::btn_userlogClick);
 }
 
 Tfrm_menu::~Tfrm_menu() = default;
@@ -75,6 +74,7 @@ bool Tfrm_menu::event(QEvent* event) {
 void Tfrm_menu::FormActivate() {
     if (!std::exchange(first_activate, false))
         return;
+    m_services.language.ApplyLanguage(*this);
     read_change_lang();
     sql_cab.openSql(QStringLiteral("select * from cabang"));
     sql_jbt.openSql(QStringLiteral("select * from func"));
@@ -85,10 +85,7 @@ void Tfrm_menu::FormActivate() {
 void Tfrm_menu::read_change_lang() {
     data::SqlQuery& sql = m_session.sql_cek_lang;
     sql.openSql(QStringLiteral("select param_value from global_setting where param_id='change_lang' "));
-    const bool hasLanguageButton = sql.text(u"param_value") != QLatin1String("0");
-    Msd_Konfirmasi.setButtonCount(hasLanguageButton ? 3 : 2);
-    Msd_Error.setButtonCount(hasLanguageButton ? 2 : 1);
-    Msd_Informasi.setButtonCount(hasLanguageButton ? 2 : 1);
+    m_services.messages.allowEditing(sql.text(u"param_value") != QLatin1String("0"));
 }
 
 void Tfrm_menu::read_periode() {
@@ -113,4 +110,8 @@ void Tfrm_menu::read_session_cab() {
         return;
     m_session.session_cab_id = value.mid(value.indexOf(u':') + 1);
     filter_cab_id = integerOf(m_session.session_cab_id);
+}
+
+void Tfrm_menu::btn_userlogClick() {
+    Tfrm_userlog(m_services, m_session.login_id, frame::payrollModule, this).exec();
 }

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "frame/base/session.h"
+#include "frame/base/services.h"
 #include "toolkit/platform/host.h"
-#include "toolkit/ui/message_dialog.h"
 
 #include <QMainWindow>
 
@@ -37,6 +36,7 @@ protected:
 
 private:
     void FormActivate();
+    void btn_userlogClick();
     void read_change_lang();
     void read_periode();
     void read_session_cab();
@@ -44,11 +44,9 @@ private:
     std::unique_ptr<Ui::frm_menu> m_ui;
     const QString m_folder;
     const frame::UserSettingReader m_readUserSetting;
-    frame::Session m_session;
+    frame::Services m_services;
+    frame::Session& m_session = m_services.session;
     std::optional<platform::PingSocket> m_ping;
-    MessageDialog Msd_Konfirmasi{MessageKind::Confirmation, this};
-    MessageDialog Msd_Error{MessageKind::Error, this};
-    MessageDialog Msd_Informasi{MessageKind::Information, this};
     data::SqlQuery sql_cab{m_session.ADOConn};
     data::SqlQuery sql_jbt{m_session.ADOConn};
     qint32 filter_cab_id = 0; ///< branch chosen in lookup_cab, 0 for none

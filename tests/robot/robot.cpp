@@ -8,14 +8,13 @@
 
 Robot::Robot(window::ProgramEnvironment environment, std::FILE* input) :
     m_environment(std::move(environment)), m_script(input) {
-    connect(&m_pulse, &QTimer::timeout, this, &Robot::step);
     connect(&m_dialogs, &DialogAnswers::failed, this, [this](const QString& why) { fail(why); });
 }
 
 Robot::~Robot() = default;
 
 int Robot::run() {
-    m_pulse.start(0);
+    pulse();
     return QApplication::exec();
 }
 
@@ -51,7 +50,15 @@ bool Robot::mustWait() const {
     return !m_running.empty() && (!modal || modal == m_running.back() || !modal->isVisible());
 }
 
+void Robot::pulse() {
+    // A timer of its own for every beat: one that is being handled does not beat in the event loops inside its handler.
+    QTimer::singleShot(1, this, &Robot::step);
+}
+
 void Robot::step() {
+    if (m_finished)
+        return;
+    pulse();
     if (mustWait())
         return;
     if (!m_running.empty())
@@ -61,7 +68,7 @@ void Robot::step() {
         execute(*command);
         return;
     }
-    m_pulse.stop();
+    m_finished = true;
     if (m_program)
         m_program->closeAll();
     QApplication::exit(0);

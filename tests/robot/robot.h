@@ -39,6 +39,7 @@ public:
     static void settle();
 
 private:
+    void pulse();
     void step();
     [[nodiscard]] bool mustWait() const;
     void execute(const Command& command);
@@ -49,10 +50,10 @@ private:
     Script m_script;
     FormOrder m_forms{nullptr};
     DialogAnswers m_dialogs;
-    QTimer m_pulse;
     std::vector<QWidget*> m_running; // the modal window that each command on the stack began under
     QElapsedTimer m_clock;
     qint64 m_lastTook = 0;
+    bool m_finished = false;
 };
 
 /// Carries out one command. Throws CommandError.

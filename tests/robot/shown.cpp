@@ -1,6 +1,7 @@
 #include "tests/robot/shown.h"
 
 #include "tests/robot/script.h"
+#include "toolkit/ui/caption.h"
 #include "toolkit/ui/status_panels.h"
 
 #include <QAbstractSpinBox>
@@ -15,17 +16,6 @@
 #include <QTabWidget>
 
 namespace {
-
-/// Captions carry their shortcut mark; nobody sees it as a character.
-QString withoutMark(const QString& caption) {
-    QString shown;
-    for (qsizetype i = 0; i < caption.size(); ++i) {
-        if (caption[i] == u'&' && i + 1 < caption.size())
-            ++i;
-        shown += caption[i];
-    }
-    return shown;
-}
 
 QStringList panelTexts(const StatusPanels* bar) {
     QStringList texts;
@@ -59,10 +49,10 @@ QString shownText(const QWidget* control) {
         return label->text();
     if (const auto* button = qobject_cast<const QAbstractButton*>(control)) {
         const bool isMark = qobject_cast<const QCheckBox*>(button) || qobject_cast<const QRadioButton*>(button);
-        return isMark ? QString::number(button->isChecked() ? -1 : 0) : withoutMark(button->text());
+        return isMark ? QString::number(button->isChecked() ? -1 : 0) : captionText(button->text());
     }
     if (const auto* group = qobject_cast<const QGroupBox*>(control))
-        return withoutMark(group->title());
+        return captionText(group->title());
     if (const auto* bar = qobject_cast<const StatusPanels*>(control))
         return panelTexts(bar).join(QStringLiteral(" | "));
     if (!control->windowTitle().isEmpty())
@@ -83,7 +73,7 @@ QStringList shownItems(const QWidget* control) {
         return panelTexts(bar);
     if (const auto* tabs = qobject_cast<const QTabWidget*>(control)) {
         for (int i = 0; i < tabs->count(); ++i)
-            items << withoutMark(tabs->tabText(i));
+            items << captionText(tabs->tabText(i));
         return items;
     }
     throw CommandError(QStringLiteral("%1 has no entries").arg(control->objectName()));

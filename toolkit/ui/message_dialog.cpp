@@ -54,15 +54,15 @@ QStringList defaultButtons(MessageKind kind) {
 
 MessageDialog::MessageDialog(MessageKind kind, QObject* parent) :
     QObject(parent), m_kind(kind), m_buttonCount(int(defaultButtons(kind).size())), m_caption(defaultCaption(kind)),
-    m_buttonCaptions(defaultButtons(kind)) {}
+    m_texts(defaultButtons(kind)) {}
 
 void MessageDialog::setButtonCount(int count) {
-    m_buttonCount = std::clamp(count, 1, int(m_buttonCaptions.size()));
+    m_buttonCount = std::clamp(count, 1, int(m_texts.size()));
 }
 
-void MessageDialog::setButtonCaption(int index, const QString& caption) {
-    if (index >= 0 && index < m_buttonCaptions.size())
-        m_buttonCaptions[index] = caption;
+void MessageDialog::setText(int index, const QString& caption) {
+    if (index >= 0 && index < m_texts.size())
+        m_texts[index] = caption;
 }
 
 int MessageDialog::execute(QWidget* owner, const Message& message) {
@@ -70,7 +70,7 @@ int MessageDialog::execute(QWidget* owner, const Message& message) {
     window.setObjectName(objectName());
     window.setWindowTitle(m_caption);
     for (int i = 0; i < m_buttonCount; ++i)
-        window.addButton(m_buttonCaptions[i], resultOf(m_kind, i));
+        window.addButton(m_texts[i], resultOf(m_kind, i));
     return window.exec();
 }
 

@@ -32,8 +32,8 @@ public:
     void setCaption(const QString& caption) { m_caption = caption; }
     [[nodiscard]] const QString& caption() const { return m_caption; }
     /// Captions of the buttons in their order.
-    void setButtonCaption(int index, const QString& caption);
-    [[nodiscard]] const QStringList& buttonCaptions() const { return m_buttonCaptions; }
+    void setText(int index, const QString& caption);
+    [[nodiscard]] const QStringList& texts() const { return m_texts; }
 
     /// Shows the message over the owner until it is answered; gives a MessageResult.
     int execute(QWidget* owner, const Message& message);
@@ -42,7 +42,7 @@ private:
     const MessageKind m_kind;
     int m_buttonCount;
     QString m_caption;
-    QStringList m_buttonCaptions;
+    QStringList m_texts;
 };
 
 /// The window that execute() puts on the screen; public so that whoever watches the screen can tell it from others.

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "frame/base/services.h"
+
+#include <QDialog>
+
+/// A modal screen. It is activated when it appears and each time a screen that it opened closes; message dialogs and
+/// other programs do not count, so nobody loses a half-made entry to a warning or a telephone call.
+class Screen : public QDialog {
+    Q_OBJECT
+
+public:
+    Screen(frame::Services& services, QWidget* parent);
+
+protected:
+    /// What the screen does when it is activated; a fault is shown.
+    virtual void FormActivate() {}
+
+    void showEvent(QShowEvent* event) override;
+    /// Opens a child screen modally, then activates this one again.
+    void openModal(Screen& child);
+
+    frame::Services& m_services;
+};

@@ -1,0 +1,126 @@
+#include "toolkit/ui/data_grid.h"
+
+#include "toolkit/ui/band_header.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScopedValueRollback>
+
+DataGrid::DataGrid(QWidget* parent) : QTableView(parent), m_model(new GridModel(this)) {
+    setHorizontalHeader(new BandHeader(this));
+    setModel(m_model);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);
+    setSelectionBehavior(SelectRows);
+    setSelectionMode(SingleSelection);
+    setAlternatingRowColors(true);
+    setEditTriggers(NoEditTriggers);
+    setWordWrap(false);
+    setTabKeyNavigation(false);
+    setHorizontalScrollMode(ScrollPerPixel);
+}
+
+void DataGrid::setColumns(const std::vector<ColumnPlan>& columns, const std::vector<BandPlan>& bands) {
+    for (const BandPlan& plan : bands) {
+        m_bands.push_back(new GridBand(plan, this));
+        connect(m_bands.back(), &GridBand::changed, horizontalHeader()->viewport(), qOverload<>(&QWidget::update));
+    }
+    std::vector<GridColumn*> objects;
+    for (const ColumnPlan& plan : columns)
+        objects.push_back(new GridColumn(plan, this));
+    m_model->setColumns(objects);
+    for (std::size_t i = 0; i < objects.size(); ++i)
+        setColumnHidden(int(i), objects[i]->isHidden());
+    if (bands.empty())
+        return;
+    static_cast<BandHeader*>(horizontalHeader())->setBands([this](int column) -> const GridBand* {
+        for (const GridBand* band : m_bands)
+            if (band->objectName() == m_model->columns()[std::size_t(column)]->band())
+                return band;
+        return nullptr;
+    });
+}
+
+void DataGrid::setDataSet(data::DataSet* set) {
+    if (dataSet())
+        disconnect(dataSet(), nullptr, this, nullptr);
+    m_model->setDataSet(set);
+    if (!set)
+        return;
+    connect(set, &data::DataSet::cursorMoved, this, &DataGrid::followCursor);
+    connect(set, &data::DataSet::reset, this, &DataGrid::followCursor);
+    followCursor();
+}
+
+int DataGrid::columnOf(QStringView field) const {
+    for (std::size_t i = 0; i < columns().size(); ++i)
+        if (field.compare(columns()[i]->field(), Qt::CaseInsensitive) == 0)
+            return int(i);
+    return -1;
+}
+
+void DataGrid::followCursor() {
+    const QScopedValueRollback following(m_following, true);
+    if (!dataSet()->isOpen() || dataSet()->isEmpty())
+        return;
+    const int column = currentIndex().isValid() ? currentIndex().column() : 0;
+    setCurrentIndex(m_model->index(dataSet()->row(), column));
+}
+
+void DataGrid::currentChanged(const QModelIndex& current, const QModelIndex& previous) {
+    QTableView::currentChanged(current, previous);
+    if (m_following || !current.isValid() || current.row() == dataSet()->row())
+        return;
+    dataSet()->goToRow(current.row());
+    Q_EMIT rowChangedByUser();
+}
+
+int DataGrid::tickColumn() const {
+    for (std::size_t i = 0; i < columns().size(); ++i)
+        if (columns()[i]->show() == Show::Tick)
+            return int(i);
+    return -1;
+}
+
+void DataGrid::toggle(int column) {
+    if (column < 0 || dataSet()->isEmpty())
+        return;
+    const GridColumn& tick = *columns()[std::size_t(column)];
+    const bool ticked = data::integerOf(m_model->valueAt(dataSet()->row(), column)) == -1;
+    const QString text = ticked ? QStringLiteral("0") : QStringLiteral("-1");
+    dataSet()->editValue(tick.field(), text.toInt());
+    Q_EMIT toggled(tick.field(), text);
+    dataSet()->post();
+}
+
+void DataGrid::mouseReleaseEvent(QMouseEvent* event) {
+    QTableView::mouseReleaseEvent(event);
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && index.isValid() && index == currentIndex() &&
+        columns()[std::size_t(index.column())]->show() == Show::Tick)
+        toggle(index.column());
+}
+
+void DataGrid::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Space && tickColumn() >= 0)
+        toggle(tickColumn());
+    else
+        QTableView::keyPressEvent(event);
+}
+
+void FitGridColumns(DataGrid& grid) {
+    constexpr int leastWidth = 10;
+    constexpr int captionRoom = 27;
+    constexpr int textRoom = 10;
+    const QFontMetrics metrics = grid.fontMetrics();
+    const GridModel& rows = grid.rows();
+    for (int column = 0; column < rows.columnCount(); ++column) {
+        const QString caption = grid.columns()[std::size_t(column)]->caption().trimmed();
+        int width = std::max(leastWidth, metrics.horizontalAdvance(caption) + captionRoom);
+        for (int row = 0; row < rows.rowCount(); ++row)
+            width = std::max(width, metrics.horizontalAdvance(rows.textAt(row, column).trimmed()) + textRoom);
+        grid.setColumnWidth(column, width);
+    }
+    grid.setEnabled(rows.rowCount() > 0);
+}
