@@ -1,0 +1,29 @@
+#include "tools/company/texts.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+std::string outcome(const char* table) {
+    try {
+        QStringList lines;
+        for (const QStringList& row :
+             company::textRows(QString::fromUtf8(table), {QStringLiteral("a"), QStringLiteral("b")}))
+            lines << row.join(u'|');
+        return lines.join(u'/').toStdString();
+    } catch (const std::exception& fault) {
+        return fault.what();
+    }
+}
+
+TEST(TableOfTexts, IsReadWholeOrRefusedWithItsLine) {
+    EXPECT_EQ(outcome("a\tb\n1\tJam: 8\n2\té\n"), "1|Jam: 8/2|é");
+    EXPECT_EQ(outcome("a\tb"), "");
+    EXPECT_EQ(outcome("b\ta\n1\t2\n"), "Table of texts, line 1: not the expected header");
+    EXPECT_EQ(outcome("a\tb\n1\t2\n1\n"), "Table of texts, line 3: wrong number of columns");
+    EXPECT_EQ(outcome("a\tb\n1\t2\t3\n"), "Table of texts, line 2: wrong number of columns");
+    EXPECT_EQ(outcome("a\tb\n1\t\n"), "Table of texts, line 2: an empty cell");
+    EXPECT_EQ(outcome("a\tb\n\n1\t2\n"), "Table of texts, line 2: wrong number of columns");
+}
+
+} // namespace
