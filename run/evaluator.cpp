@@ -89,12 +89,8 @@ Working Evaluator::evaluate(const Rule& rule, const Window& window) {
         working.faktor = 1;
         working.teks_kondisi.addMoney(Operator::Multiply, working.nilai_uang);
     } else if (rule.use_sum == flagOn) {
-        // The condition's own figure is not read again: what lies inside the band is the parameter. Whether the
-        // condition is on does not matter, so a rule that is off but still names the figure takes the untouched 0.
-        const bool sameFigure = rule.use_kode_sum == sourceFigure && rule.use_kode_if == sourceFigure &&
-                                rule.id_kode_if == rule.id_kode_sum;
         working.nilai_rumus =
-            sameFigure ? working.nilai_kondisi : sourceValue(rule.use_kode_sum, rule.id_kode_sum, window);
+            rule.sharesFigure() ? working.nilai_kondisi : sourceValue(rule.use_kode_sum, rule.id_kode_sum, window);
         working.faktor = working.nilai_rumus;
         applyFormula(rule, working.nilai_rumus, working);
     }

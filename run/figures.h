@@ -13,6 +13,7 @@ struct AttendanceTable {
     QLatin1String alias;
     QLatin1String date;       ///< date column
     QLatin1String conditions; ///< what every row must meet, may be empty
+    QLatin1String setting;    ///< join of the setting that its amounts depend on, may be empty
 };
 
 /// How the date of a row stands to the table of public holidays.

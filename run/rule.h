@@ -37,6 +37,12 @@ struct Rule {
     QString com_name;
     int typex = 0; ///< the component's type: 0 earning, else deduction
     int param = 0; ///< -1: other rules may refer to the component
+
+    /// The formula works on what the band leaves of the condition's figure. Whether the condition is on does not
+    /// matter, so a rule that is off but still names the figure takes an untouched 0.
+    [[nodiscard]] bool sharesFigure() const {
+        return use_kode_sum == sourceFigure && use_kode_if == sourceFigure && id_kode_if == id_kode_sum;
+    }
 };
 
 /// Rules of one component as one employee of a group meets them; money values are looked up by the same three numbers.

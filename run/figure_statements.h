@@ -1,0 +1,48 @@
+#pragma once
+
+#include "run/figures.h"
+
+#include <QMap>
+#include <QString>
+
+#include <vector>
+
+namespace run {
+
+// Statements of attendance figures, all built from the definitions in figures.h. Named parameters: :tanggal_awal is the
+// first day, :tanggal_akhir the day after the last one, :emp_id_auto the employee.
+
+/// Whose rows a derived table reads.
+enum class Rows { OfEveryone, OfTheEmployee };
+
+/// The select of a derived table with one row per employee: the rounded sum of the amounts, or the number of rows.
+[[nodiscard]] QString amountSelect(const Figure& figure, const FigurePart& part, Rows rows);
+[[nodiscard]] QString daysSelect(const Figure& figure, const FigurePart& part, Rows rows);
+
+/// One figure of one employee over one window: its result column stands in the first row.
+[[nodiscard]] QString statementForEmployee(const Figure& figure);
+
+/// sum_id to sum_as, as sum_report holds them.
+using CountSettings = QMap<int, int>;
+
+/// One part of a figure as a column of a bulk statement. The expression has its braces still.
+struct BulkColumn {
+    const FigurePart* part = nullptr;
+    QString expression;
+};
+
+/// The part as the settings want it counted, or in days whatever they say.
+[[nodiscard]] BulkColumn bulkColumn(const Figure& figure, const FigurePart& part, const CountSettings& settings);
+[[nodiscard]] BulkColumn dayColumn(const FigurePart& part);
+
+/// Whether one statement can hold both columns.
+[[nodiscard]] bool shareStatement(const BulkColumn& a, const BulkColumn& b);
+
+enum class Grouping { ByEmployee, ByEmployeeAndDay };
+
+/// The values of the employees in `employees`, a select of emp_id_auto: emp_id_auto, hari (days since :tanggal_awal, 0
+/// where not grouped by day), then one column each, NULL where the employee has no such row. Columns share a statement.
+[[nodiscard]] QString statementForAll(const std::vector<BulkColumn>& columns, Grouping grouping,
+                                      const QString& employees);
+
+} // namespace run

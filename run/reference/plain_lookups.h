@@ -1,0 +1,35 @@
+#pragma once
+
+#include "run/assembly.h"
+#include "toolkit/db/connection.h"
+
+namespace run {
+
+/// Looks everything up the plain way: one statement for each lookup, at the moment it is asked for. Slow; it is the
+/// measure of what a run has to yield.
+class PlainLookups final : public Lookups {
+public:
+    PlainLookups(db::Connection& main, db::Connection& app, const Selections& selections);
+
+    [[nodiscard]] std::vector<Employee> members(int grp_id) override;
+    [[nodiscard]] std::span<const Rule> rules(const RuleKey& key) override;
+    [[nodiscard]] double money(const RuleKey& key) override;
+    [[nodiscard]] QString referenceName(int com_id) override;
+    [[nodiscard]] std::vector<LoanPayment> loanPayments(int emp_id_auto) override;
+    [[nodiscard]] int selisih_hari(const QDate& a, const QDate& b) override;
+
+protected:
+    [[nodiscard]] double figure(int id_kode_report, int emp_id_auto, const Window& window) override;
+    [[nodiscard]] double kehadiran(int emp_id_auto, const Window& window) override;
+    [[nodiscard]] Hadir100 hadir100() override;
+
+private:
+    [[nodiscard]] double readFigure(int id_kode_report, const QString& column, int emp_id_auto, const Window& window);
+
+    db::Connection& m_main;
+    db::Connection& m_app;
+    const Selections m_selections;
+    std::vector<Rule> m_rules;
+};
+
+} // namespace run
