@@ -1,3 +1,4 @@
+#include "tests/robot/keyboard.h"
 #include "tests/robot/pointer.h"
 #include "tests/robot/robot.h"
 #include "tests/robot/shown.h"
@@ -32,18 +33,6 @@ void focusOn(QWidget* control, const QString& path) {
     Robot::settle();
     if (isReadOnly(control))
         throw CommandError(QStringLiteral("%1 is read-only").arg(path));
-}
-
-void selectAll(QWidget* control) {
-    QMetaObject::invokeMethod(control, "selectAll");
-}
-
-void typeText(QWidget* control, const QString& text) {
-    selectAll(control);
-    if (text.isEmpty())
-        QTest::keyClick(control, Qt::Key_Delete);
-    for (const QChar c : text)
-        QTest::sendKeyEvent(QTest::Click, control, Qt::Key_unknown, QString(c), Qt::NoModifier);
 }
 
 void setDate(QDateTimeEdit* edit, const QString& value) {
@@ -150,6 +139,7 @@ const QHash<QString, Action>& actions() {
               for (const QString& word : w)
                   r.dialogs().queueAnswer(wholeNumber(word));
           }}},
+        {u"input"_qs, {1, 1, [](Robot& r, const Words& w) { r.dialogs().queueInput(w[0]); }}},
         {u"get"_qs,
          {1, 1,
           [](Robot& r, const Words& w) {

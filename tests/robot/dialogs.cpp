@@ -1,12 +1,16 @@
 #include "tests/robot/dialogs.h"
 
+#include "tests/robot/keyboard.h"
 #include "tests/robot/robot.h"
 #include "tests/robot/shown.h"
+#include "toolkit/ui/input_dialog.h"
 #include "toolkit/ui/message_dialog.h"
 
 #include <QApplication>
 #include <QEvent>
+#include <QLineEdit>
 #include <QPointer>
+#include <QtTest/qtestkeyboard.h>
 
 DialogAnswers::DialogAnswers() {
     qApp->installEventFilter(this);
@@ -15,18 +19,25 @@ DialogAnswers::DialogAnswers() {
 bool DialogAnswers::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::Show)
         return false;
-    if (auto* window = qobject_cast<MessageWindow*>(watched)) {
+    const auto later = [this](auto* window, auto action) {
         ++m_answering;
         QMetaObject::invokeMethod(
-            this, [this, window = QPointer(window)] { answer(window); }, Qt::QueuedConnection);
-    }
+            this,
+            [this, window = QPointer(window), action] {
+                --m_answering;
+                if (window)
+                    (this->*action)(window);
+            },
+            Qt::QueuedConnection);
+    };
+    if (auto* message = qobject_cast<MessageWindow*>(watched))
+        later(message, &DialogAnswers::answer);
+    else if (auto* input = qobject_cast<InputWindow*>(watched))
+        later(input, &DialogAnswers::enter);
     return false;
 }
 
 void DialogAnswers::answer(MessageWindow* window) {
-    --m_answering;
-    if (!window)
-        return;
     const bool queued = !m_answers.isEmpty();
     const Message& message = window->message();
     const QString subject = QStringLiteral("message %1 %2 %3")
@@ -40,4 +51,22 @@ void DialogAnswers::answer(MessageWindow* window) {
     Robot::print(QStringLiteral("%1 -> %2").arg(subject).arg(result));
     if (!window->press(result))
         Q_EMIT failed(QStringLiteral("no button for answer %1: %2").arg(result).arg(subject));
+}
+
+void DialogAnswers::enter(InputWindow* window) {
+    const QString subject =
+        QStringLiteral("input %1 %2").arg(quoted(window->windowTitle()), quoted(window->edit()->text()));
+    if (m_inputs.isEmpty()) {
+        Q_EMIT failed(QStringLiteral("no text queued for: %1").arg(subject));
+        return;
+    }
+    const QString text = m_inputs.dequeue();
+    if (text == QLatin1String("!")) {
+        Robot::print(subject + QStringLiteral(" -> !"));
+        QTest::keyClick(window, Qt::Key_Escape);
+        return;
+    }
+    Robot::print(subject + QStringLiteral(" -> ") + quoted(text));
+    typeText(window->edit(), text);
+    QTest::keyClick(window->edit(), Qt::Key_Return);
 }

@@ -4,6 +4,7 @@
 #include <QQueue>
 #include <QStringList>
 
+class InputWindow;
 class MessageWindow;
 
 /// Answers message, input and file dialogs as they appear, through their own buttons, and prints each.
@@ -14,11 +15,13 @@ public:
     DialogAnswers();
 
     void queueAnswer(int result) { m_answers.enqueue(result); }
+    /// "!" cancels the dialog.
+    void queueInput(const QString& text) { m_inputs.enqueue(text); }
     /// True while a dialog that will be answered is on the screen.
     [[nodiscard]] bool isAnswering() const { return m_answering > 0; }
 
 Q_SIGNALS:
-    /// A question came with nothing queued, or an answer that the dialog has no button for.
+    /// A question or an input dialog came with nothing queued, or an answer that the dialog has no button for.
     void failed(const QString& why);
 
 protected:
@@ -26,7 +29,9 @@ protected:
 
 private:
     void answer(MessageWindow* window);
+    void enter(InputWindow* window);
 
     QQueue<int> m_answers;
+    QQueue<QString> m_inputs;
     int m_answering = 0;
 };

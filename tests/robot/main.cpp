@@ -64,9 +64,19 @@ window::ProgramEnvironment environmentFrom(const QCommandLineParser& options) {
     return environment;
 }
 
+/// The platform without a display tells of what it cannot do at every window; nobody can do anything about it.
+void printWarning(QtMsgType, const QMessageLogContext& context, const QString& text) {
+    if (text.startsWith(QLatin1String("This plugin does not support")) ||
+        text.startsWith(QLatin1String("QStandardPaths: XDG_RUNTIME_DIR")))
+        return;
+    const char* category = context.category && qstrcmp(context.category, "default") != 0 ? context.category : "";
+    std::fprintf(stderr, "%s%s%s\n", category, *category ? ": " : "", qPrintable(text));
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
+    qInstallMessageHandler(printWarning);
     QTemporaryFile screen;
     prepareScreen(screen, sizeArgument(argc, argv));
     QApplication application(argc, argv);

@@ -1,6 +1,6 @@
 #include "tests/support/test_database.h"
 
-#include "tools/company/install.h"
+#include "tools/company/generate.h"
 
 #include <QCoreApplication>
 
@@ -31,12 +31,27 @@ db::ConnectionSettings testServer() {
             .database = {}};
 }
 
-TestDatabase::TestDatabase() {
+static db::ConnectionSettings freshName() {
     db::ConnectionSettings settings = testServer();
     settings.database = uniqueName();
     // A test program that was killed may have left its databases behind, and process numbers come back.
     company::uninstall(settings);
+    return settings;
+}
+
+TestDatabase::TestDatabase() {
+    const db::ConnectionSettings settings = freshName();
     company::install(settings);
+    configure(settings);
+}
+
+TestDatabase::TestDatabase(const company::Options& options) {
+    const db::ConnectionSettings settings = freshName();
+    company::generate(settings, options);
+    configure(settings);
+}
+
+void TestDatabase::configure(const db::ConnectionSettings& settings) {
     m_main.configure(settings);
     m_app.configure(company::applicationSettings(settings));
 }

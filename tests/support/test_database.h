@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkit/db/connection.h"
+#include "tools/company/employees.h"
 
 #include <QString>
 #include <QStringList>
@@ -14,6 +15,8 @@
 class TestDatabase final {
 public:
     TestDatabase();
+    /// The same filled by the generator.
+    explicit TestDatabase(const company::Options& options);
     ~TestDatabase();
     TestDatabase(const TestDatabase&) = delete;
     TestDatabase& operator=(const TestDatabase&) = delete;
@@ -33,6 +36,7 @@ public:
     [[nodiscard]] static QStringList rows(db::Connection& connection, const QString& sql);
 
 private:
+    void configure(const db::ConnectionSettings& settings);
     static qint64 run(db::Connection& connection, const QString& sql);
 
     db::Connection m_main;

@@ -1,0 +1,207 @@
+// Runs one robot script on databases of its own and compares what it prints with what is expected.
+//
+//     robot_case ROBOT CASE.robot [--update]
+//
+// The script is the robot's own language. Comments that begin with "#:" speak to this driver, at their place:
+//     #: company EMPLOYEES MONTHS   first line only: databases with a generated company, else empty ones
+//     #: options --user hrd ...     options of the robot
+//     #: main SQL  #: app SQL       runs statements on one of the databases; "#:+" goes on with the line before
+//     #: rows SQL  #: rows-app SQL  puts the rows into the output, tab-separated
+// The output, with what the robot said on standard error and its exit status if it is not 0, must equal CASE.expected;
+// --update writes that file instead.
+
+#include "tests/support/test_database.h"
+
+#include "frame/settings_file/settings_file.h"
+#include "tools/company/generate.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <memory>
+#include <stdexcept>
+
+namespace {
+
+constexpr int patience = 120'000; // milliseconds
+
+QByteArray readFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("cannot read " + path.toStdString());
+    return file.readAll();
+}
+
+/// One line of the case, or several that "#:+" joins.
+struct Step {
+    bool isDirective = false;
+    QString text; ///< the directive without its mark
+};
+
+std::vector<Step> stepsOf(const QString& script) {
+    std::vector<Step> steps;
+    for (const QString& line : script.split(u'\n')) {
+        if (line.startsWith(QLatin1String("#:+")) && !steps.empty())
+            steps.back().text += u'\n' + line.mid(3);
+        else if (line.startsWith(QLatin1String("#:")))
+            steps.push_back({true, line.mid(2).trimmed()});
+        else
+            steps.push_back({false, line});
+    }
+    return steps;
+}
+
+/// The robot at work, and the transcript of all that is worth comparing.
+class Case final {
+public:
+    Case(QString robot, std::vector<Step> steps) : m_robotPath(std::move(robot)), m_steps(std::move(steps)) {
+        m_robot.setProcessChannelMode(QProcess::SeparateChannels);
+    }
+
+    [[nodiscard]] QByteArray transcript() {
+        openDatabase();
+        for (const Step& step : m_steps)
+            step.isDirective ? obey(step.text) : tell(step.text);
+        finish();
+        return m_transcript;
+    }
+
+private:
+    void openDatabase() {
+        company::Options options;
+        options.lastMonth = QDate(2026, 10, 1);
+        const QStringList words = m_steps.front().text.split(u' ');
+        const bool generated = m_steps.front().isDirective && words.front() == QLatin1String("company");
+        if (generated) {
+            options.employees = words.value(1).toInt();
+            options.months = words.value(2).toInt();
+        }
+        m_database = generated ? std::make_unique<TestDatabase>(options) : std::make_unique<TestDatabase>();
+        const db::ConnectionSettings& server = m_database->mainSettings();
+        settings::writeSettingsFile(m_folder.filePath(QStringLiteral("user.tvk")),
+                                    {.user = server.user,
+                                     .server = QStringLiteral("localhost"),
+                                     .password = server.password,
+                                     .database = server.database,
+                                     .port = server.port});
+    }
+
+    void obey(const QString& directive) {
+        const QString verb = directive.section(u' ', 0, 0);
+        const QString rest = directive.mid(verb.size()).trimmed();
+        if (verb == QLatin1String("options")) {
+            m_options = QProcess::splitCommand(rest);
+            return;
+        }
+        if (verb == QLatin1String("company"))
+            return;
+        waitForRobot();
+        if (verb == QLatin1String("main"))
+            m_database->run(rest);
+        else if (verb == QLatin1String("app"))
+            m_database->runApp(rest);
+        else if (verb == QLatin1String("rows"))
+            add(m_database->rows(rest));
+        else if (verb == QLatin1String("rows-app"))
+            add(m_database->rowsApp(rest));
+        else
+            throw std::runtime_error("unknown directive: " + verb.toStdString());
+    }
+
+    void add(const QStringList& lines) {
+        for (const QString& line : lines)
+            m_transcript += line.toUtf8() + '\n';
+    }
+
+    void tell(const QString& line) {
+        if (m_robot.state() == QProcess::NotRunning && !m_started) {
+            m_started = true;
+            m_robot.setWorkingDirectory(m_folder.path());
+            m_robot.start(m_robotPath, QStringList{QStringLiteral("--dir"), m_folder.path()} + m_options);
+            if (!m_robot.waitForStarted())
+                throw std::runtime_error("the robot does not start");
+        }
+        m_robot.write(line.toUtf8() + '\n');
+    }
+
+    /// Returns when the robot has done all that it was told so far, or has ended.
+    void waitForRobot() {
+        if (!m_started)
+            return;
+        const QByteArray mark = "-- " + QByteArray::number(++m_marks) + " --\n";
+        m_robot.write("echo " + mark);
+        QByteArray output;
+        while (!output.endsWith(mark) && m_robot.state() != QProcess::NotRunning) {
+            if (!m_robot.waitForReadyRead(patience) && m_robot.state() != QProcess::NotRunning)
+                throw std::runtime_error("the robot does not answer; so far:\n" +
+                                         (m_transcript + output).toStdString());
+            output += m_robot.readAllStandardOutput();
+        }
+        output += m_robot.readAllStandardOutput();
+        if (output.endsWith(mark))
+            output.chop(mark.size());
+        m_transcript += output;
+    }
+
+    void finish() {
+        m_robot.closeWriteChannel();
+        if (!m_robot.waitForFinished(patience))
+            throw std::runtime_error("the robot does not end; so far:\n" + m_transcript.toStdString());
+        m_transcript += m_robot.readAllStandardOutput() + m_robot.readAllStandardError();
+        if (m_robot.exitStatus() == QProcess::CrashExit || m_robot.exitCode() != 0)
+            m_transcript += "exit " + QByteArray::number(m_robot.exitCode()) + '\n';
+    }
+
+    const QString m_robotPath;
+    const std::vector<Step> m_steps;
+    const QTemporaryDir m_folder;
+    std::unique_ptr<TestDatabase> m_database;
+    QProcess m_robot;
+    QStringList m_options;
+    QByteArray m_transcript;
+    bool m_started = false;
+    int m_marks = 0;
+};
+
+/// Shows where the two texts part, as the system's own tool does.
+int compare(const QString& expectedPath, const QByteArray& transcript) {
+    if (readFile(expectedPath) == transcript)
+        return 0;
+    QProcess diff;
+    diff.setProcessChannelMode(QProcess::ForwardedChannels);
+    diff.start(QStringLiteral("diff"), {QStringLiteral("-u"), expectedPath, QStringLiteral("-")});
+    diff.write(transcript);
+    diff.closeWriteChannel();
+    diff.waitForFinished();
+    return 1;
+}
+
+int runCase(const QStringList& arguments) {
+    if (arguments.size() < 3)
+        throw std::runtime_error("usage: robot_case ROBOT CASE.robot [--update]");
+    const QString script = arguments[2];
+    Case robotCase(arguments[1], stepsOf(QString::fromUtf8(readFile(script))));
+    const QByteArray transcript = robotCase.transcript();
+    const QString expected = script.left(script.size() - 5) + QStringLiteral("expected");
+    if (!arguments.contains(QStringLiteral("--update")))
+        return compare(expected, transcript);
+    QFile file(expected);
+    const bool written = file.open(QIODevice::WriteOnly) && file.write(transcript) == transcript.size();
+    return written ? 0 : 1;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    try {
+        return runCase(QCoreApplication::arguments());
+    } catch (const std::exception& fault) {
+        std::fprintf(stderr, "%s\n", fault.what());
+        return 1;
+    }
+}
