@@ -1,5 +1,6 @@
 #include "frame/base/connect.h"
 
+#include "frame/base/log.h"
 #include "frame/settings_file/settings_file.h"
 
 namespace frame {
@@ -13,7 +14,9 @@ const QString unreachableServer = QStringLiteral("aaa");
 QString reachableServer(const QString& server, platform::PingSocket& ping) {
     if (!platform::IsIpAddress(server))
         return platform::ResolveHost(server);
-    return ping.PingHost(server) ? server : unreachableServer;
+    const bool answers = ping.PingHost(server);
+    qCInfo(startLog) << "ping" << server << (answers ? "answered" : "not answered");
+    return answers ? server : unreachableServer;
 }
 
 } // namespace

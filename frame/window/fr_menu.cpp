@@ -2,6 +2,7 @@
 
 #include "frame/base/connect.h"
 #include "frame/base/fr_userlog.h"
+#include "frame/base/log.h"
 #include "schema/settings_keys.h"
 #include "toolkit/data/drop_fault.h"
 #include "toolkit/ui/handler.h"
@@ -63,6 +64,7 @@ void Tfrm_menu::comeForward() {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     raise();
     activateWindow();
+    qCInfo(frame::startLog) << "brought forward by another start";
 }
 
 bool Tfrm_menu::event(QEvent* event) {
@@ -80,6 +82,7 @@ void Tfrm_menu::FormActivate() {
     sql_jbt.openSql(QStringLiteral("select * from func"));
     read_periode();
     read_session_cab();
+    qCInfo(frame::startLog) << "running";
 }
 
 void Tfrm_menu::read_change_lang() {
