@@ -1,6 +1,7 @@
+#include "tests/robot/action.h"
+#include "tests/robot/grid_commands.h"
 #include "tests/robot/keyboard.h"
 #include "tests/robot/pointer.h"
-#include "tests/robot/robot.h"
 #include "tests/robot/shown.h"
 
 #include <QApplication>
@@ -17,8 +18,6 @@
 #include <QtTest/qtestsystem.h>
 
 namespace {
-
-using Words = QStringList;
 
 int wholeNumber(const QString& word) {
     bool isNumber = false;
@@ -109,17 +108,9 @@ void printItems(const QWidget* control) {
         Robot::print(item);
 }
 
-struct Action {
-    int least;
-    int most;
-    void (*run)(Robot&, const Words&);
-};
-
-constexpr int anyNumber = 1000;
-
 // The words behind the command's own name; how many it takes stands beside it.
-const QHash<QString, Action>& actions() {
-    static const QHash<QString, Action> table{
+const Actions& actions() {
+    static const Actions table{
         {u"start"_qs, {0, 0, [](Robot& r, const Words&) { r.startProgram(); }}},
         {u"click"_qs, {1, 1, [](Robot& r, const Words& w) { clickControl(r.reachable(w[0]), w[0]); }}},
         {u"double"_qs, {1, 1, [](Robot& r, const Words& w) { doubleClickControl(r.reachable(w[0]), w[0]); }}},
@@ -161,8 +152,9 @@ const QHash<QString, Action>& actions() {
 } // namespace
 
 void carryOut(Robot& robot, const QStringList& words) {
-    const auto action = actions().constFind(words.first());
-    if (action == actions().constEnd())
+    const Actions& table = gridActions().contains(words.first()) ? gridActions() : actions();
+    const auto action = table.constFind(words.first());
+    if (action == table.constEnd())
         throw CommandError(QStringLiteral("unknown command %1").arg(words.first()));
     const Words rest = words.mid(1);
     if (rest.size() < action->least || rest.size() > action->most)

@@ -31,15 +31,12 @@ QPoint reachablePoint(QWidget* control, const QString& path) {
 }
 
 /// The windowing system's own road: the toolkit finds the widget, checks modality and notices double clicks.
-void sendButton(QWindow* window, QPoint point, QEvent::Type type, int milliseconds) {
-    const bool press = type == QEvent::MouseButtonPress;
-    qt_handleMouseEvent(window, point, window->mapToGlobal(point), press ? Qt::LeftButton : Qt::NoButton,
-                        Qt::LeftButton, type, Qt::NoModifier, milliseconds);
-}
-
-void sendClick(QWindow* window, QPoint point, int milliseconds) {
-    sendButton(window, point, QEvent::MouseButtonPress, milliseconds);
-    sendButton(window, point, QEvent::MouseButtonRelease, milliseconds + 20);
+void sendClick(QWindow* window, QPoint point, int milliseconds, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    const auto send = [&](Qt::MouseButtons held, QEvent::Type type, int moment) {
+        qt_handleMouseEvent(window, point, window->mapToGlobal(point), held, Qt::LeftButton, type, modifiers, moment);
+    };
+    send(Qt::LeftButton, QEvent::MouseButtonPress, milliseconds);
+    send(Qt::NoButton, QEvent::MouseButtonRelease, milliseconds + 20);
 }
 
 /// Two commands of a script are never taken for one double click.
@@ -53,6 +50,11 @@ int nextMoment() {
 void clickControl(QWidget* control, const QString& path) {
     const QPoint point = reachablePoint(control, path);
     sendClick(control->window()->windowHandle(), point, nextMoment());
+}
+
+void clickPoint(QWidget* widget, QPoint point, Qt::KeyboardModifiers modifiers) {
+    QWidget* window = widget->window();
+    sendClick(window->windowHandle(), widget->mapTo(window, point), nextMoment(), modifiers);
 }
 
 void doubleClickControl(QWidget* control, const QString& path) {

@@ -7,5 +7,8 @@
 /// where another widget lies over that point.
 void clickControl(QWidget* control, const QString& path);
 
+/// Clicks a point of a widget, given in the widget's own coordinates.
+void clickPoint(QWidget* widget, QPoint point, Qt::KeyboardModifiers modifiers = Qt::NoModifier);
+
 /// Two clicks that both stand in the queue before the first is handled, as from a fast hand.
 void doubleClickControl(QWidget* control, const QString& path);

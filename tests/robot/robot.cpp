@@ -42,12 +42,18 @@ void Robot::startProgram() {
     print(m_program->start() ? QStringLiteral("started") : QStringLiteral("refused"));
 }
 
+/// What holds everything behind it: a menu or list that is dropped down, else a modal screen.
+QWidget* Robot::frontWindow() {
+    QWidget* popup = QApplication::activePopupWidget();
+    return popup ? popup : QApplication::activeModalWidget();
+}
+
 bool Robot::mustWait() const {
     if (m_dialogs.isAnswering())
         return true;
-    // A command is still at work unless it has put a new modal screen in front of the person.
-    QWidget* modal = QApplication::activeModalWidget();
-    return !m_running.empty() && (!modal || modal == m_running.back() || !modal->isVisible());
+    // A command is still at work unless it has put a new window in front of the person.
+    QWidget* front = frontWindow();
+    return !m_running.empty() && (!front || front == m_running.back() || !front->isVisible());
 }
 
 void Robot::pulse() {
@@ -78,7 +84,7 @@ void Robot::execute(const Command& command) {
     const bool measured = command.words.first() != QLatin1String("took");
     if (measured)
         m_clock.start();
-    m_running.push_back(QApplication::activeModalWidget());
+    m_running.push_back(frontWindow());
     const std::size_t depth = m_running.size();
     try {
         carryOut(*this, command.words);

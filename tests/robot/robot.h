@@ -41,6 +41,7 @@ public:
 private:
     void pulse();
     void step();
+    [[nodiscard]] static QWidget* frontWindow();
     [[nodiscard]] bool mustWait() const;
     void execute(const Command& command);
     [[noreturn]] void fail(const QString& why) const;
@@ -50,7 +51,7 @@ private:
     Script m_script;
     FormOrder m_forms{nullptr};
     DialogAnswers m_dialogs;
-    std::vector<QWidget*> m_running; // the modal window that each command on the stack began under
+    std::vector<QWidget*> m_running; // the front window that each command on the stack began under
     QElapsedTimer m_clock;
     qint64 m_lastTook = 0;
     bool m_finished = false;

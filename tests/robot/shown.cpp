@@ -83,6 +83,10 @@ bool isReadOnly(const QWidget* control) {
     return control->property("readOnly").toBool();
 }
 
+QString oneLine(const QString& text) {
+    return QString(text).replace(u'\n', QStringLiteral("\\n")).replace(u'\t', QStringLiteral("\\t"));
+}
+
 QString quoted(const QString& text) {
     QString inner = text;
     inner.replace(u'\\', QStringLiteral("\\\\"))

@@ -13,5 +13,8 @@
 
 [[nodiscard]] bool isReadOnly(const QWidget* control);
 
+/// The text with \n and \t in place of the real ones.
+[[nodiscard]] QString oneLine(const QString& text);
+
 /// The text in double quotes with \" \\ \n, as scripts write it.
 [[nodiscard]] QString quoted(const QString& text);

@@ -1,0 +1,180 @@
+#include "tests/robot/grid_commands.h"
+
+#include "tests/robot/grid_rows.h"
+#include "tests/robot/keyboard.h"
+#include "tests/robot/pointer.h"
+#include "tests/robot/shown.h"
+#include "toolkit/ui/caption.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QMenu>
+#include <QtTest/qtestkeyboard.h>
+
+namespace {
+
+DataGrid* gridOf(QWidget* control, const QString& path) {
+    auto* grid = qobject_cast<DataGrid*>(control);
+    if (!grid)
+        throw CommandError(QStringLiteral("%1 is no grid").arg(path));
+    return grid;
+}
+
+/// The rows that the words behind the grid's name tell; at least one.
+std::vector<int> rowsOf(const DataGrid& grid, const Words& words) {
+    const std::vector<int> rows = matchingRows(grid, words.mid(1));
+    if (rows.empty() && words[1] != QLatin1String("*"))
+        throw CommandError(QStringLiteral("%1 has no row %2").arg(words[0], words.mid(1).join(u' ')));
+    return rows;
+}
+
+void clickCell(DataGrid& grid, int row, int column, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
+    const QModelIndex index = grid.model()->index(row, column);
+    grid.scrollTo(index);
+    clickPoint(grid.viewport(), grid.visualRect(index).intersected(grid.viewport()->rect()).center(), modifiers);
+    Robot::settle();
+}
+
+/// A column whose cells can be clicked without any other effect than making their row current.
+int plainColumn(const DataGrid& grid) {
+    for (const int column : shownColumns(grid))
+        if (grid.columns()[std::size_t(column)]->show() != Show::Tick)
+            return column;
+    throw CommandError(QStringLiteral("%1 shows no column to click").arg(grid.objectName()));
+}
+
+void makeRowCurrent(Robot& robot, const Words& words) {
+    DataGrid* grid = gridOf(robot.reachable(words[0]), words[0]);
+    const std::vector<int> rows = rowsOf(*grid, words);
+    if (rows.empty())
+        throw CommandError(QStringLiteral("%1 has no rows").arg(words[0]));
+    clickCell(*grid, rows.front(), plainColumn(*grid));
+}
+
+int tickColumn(const DataGrid& grid, const QString& path) {
+    for (const int column : shownColumns(grid))
+        if (grid.columns()[std::size_t(column)]->show() == Show::Tick)
+            return column;
+    throw CommandError(QStringLiteral("%1 has no tick column").arg(path));
+}
+
+void setTicks(Robot& robot, const Words& words, const QString& wanted) {
+    DataGrid* grid = gridOf(robot.reachable(words[0]), words[0]);
+    const int column = tickColumn(*grid, words[0]);
+    int toggled = 0;
+    for (const int row : rowsOf(*grid, words)) {
+        if (row >= grid->rows().rowCount() || shownCell(*grid, row, column) == wanted)
+            continue;
+        clickCell(*grid, row, column);
+        ++toggled;
+    }
+    Robot::print(QString::number(toggled));
+}
+
+void selectRows(Robot& robot, const Words& words) {
+    DataGrid* grid = gridOf(robot.reachable(words[0]), words[0]);
+    if (grid->selectionMode() == QAbstractItemView::SingleSelection)
+        throw CommandError(QStringLiteral("%1 selects one row at a time").arg(words[0]));
+    const int column = plainColumn(*grid);
+    for (const int row : rowsOf(*grid, words))
+        if (!grid->selectionModel()->isSelected(grid->model()->index(row, column)))
+            clickCell(*grid, row, column, Qt::ControlModifier);
+}
+
+void editCell(Robot& robot, const Words& words) {
+    DataGrid* grid = gridOf(robot.reachable(words[0]), words[0]);
+    const int column = grid->columnOf(words[1]);
+    if (column < 0 || grid->isColumnHidden(column))
+        throw CommandError(QStringLiteral("%1 shows no column %2").arg(words[0], words[1]));
+    const QModelIndex index = grid->model()->index(grid->currentIndex().row(), column);
+    if (!index.isValid() || !(index.flags() & Qt::ItemIsEditable))
+        throw CommandError(QStringLiteral("column %1 of %2 is read-only").arg(words[1], words[0]));
+    grid->setCurrentIndex(index);
+    grid->setFocus(Qt::MouseFocusReason);
+    QTest::keyClick(grid, Qt::Key_F2);
+    QWidget* editor = QApplication::focusWidget();
+    typeText(editor, words[2]);
+    QTest::keyClick(editor, Qt::Key_Return);
+}
+
+void printGrid(Robot& robot, const Words& words) {
+    const DataGrid* grid = gridOf(robot.control(words[0]), words[0]);
+    const std::vector<int> columns = shownColumns(*grid);
+    QStringList captions;
+    for (const int column : columns)
+        captions << grid->columns()[std::size_t(column)]->caption();
+    Robot::print(captions.join(u'\t'));
+    for (int row = 0; row < grid->rows().rowCount(); ++row) {
+        QStringList cells;
+        for (const int column : columns)
+            cells << shownCell(*grid, row, column);
+        const QString mark = row == grid->dataSet()->row() ? QStringLiteral(">") : QString();
+        Robot::print(mark + cells.join(u'\t'));
+    }
+}
+
+void printColours(Robot& robot, const Words& words) {
+    const DataGrid* grid = gridOf(robot.control(words[0]), words[0]);
+    for (int row = 0; row < grid->rows().rowCount(); ++row)
+        for (const int column : shownColumns(*grid)) {
+            const QVariant colour = grid->model()->index(row, column).data(Qt::BackgroundRole);
+            if (colour.isValid())
+                Robot::print(QStringLiteral("%1 %2 %3")
+                                 .arg(row + 1)
+                                 .arg(grid->columns()[std::size_t(column)]->field(), colour.value<QColor>().name()));
+        }
+}
+
+void checkEntries(Robot& robot, const Words& words, Qt::CheckState wanted) {
+    auto* list = qobject_cast<QListWidget*>(robot.reachable(words[0]));
+    if (!list)
+        throw CommandError(QStringLiteral("%1 is no check list").arg(words[0]));
+    bool found = words[1] == QLatin1String("*");
+    for (int i = 0; i < list->count(); ++i) {
+        QListWidgetItem* item = list->item(i);
+        if (words[1] != QLatin1String("*") && item->text() != words[1])
+            continue;
+        found = true;
+        if (item->checkState() == wanted)
+            continue;
+        list->setCurrentItem(item);
+        QTest::keyClick(list, Qt::Key_Space);
+        if (i < list->count() && list->item(i)->checkState() != wanted)
+            throw CommandError(QStringLiteral("%1 does not take the tick on %2").arg(words[0], quoted(words[1])));
+    }
+    if (!found)
+        throw CommandError(QStringLiteral("%1 has no entry %2").arg(words[0], quoted(words[1])));
+}
+
+void chooseMenuEntry(Robot&, const Words& words) {
+    auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    if (!menu)
+        throw CommandError(QStringLiteral("no menu is dropped down"));
+    for (QAction* entry : menu->actions()) {
+        if (captionText(entry->text()) != words[0] || !entry->isVisible())
+            continue;
+        if (!entry->isEnabled())
+            throw CommandError(QStringLiteral("%1 is disabled").arg(words[0]));
+        clickPoint(menu, menu->actionGeometry(entry).center());
+        return;
+    }
+    throw CommandError(QStringLiteral("the menu has no entry %1").arg(quoted(words[0])));
+}
+
+} // namespace
+
+const Actions& gridActions() {
+    static const Actions table{
+        {u"row"_qs, {2, anyNumber, makeRowCurrent}},
+        {u"tick"_qs, {2, anyNumber, [](Robot& r, const Words& w) { setTicks(r, w, u"[x]"_qs); }}},
+        {u"untick"_qs, {2, anyNumber, [](Robot& r, const Words& w) { setTicks(r, w, u"[ ]"_qs); }}},
+        {u"select"_qs, {2, anyNumber, selectRows}},
+        {u"cell"_qs, {3, 3, editCell}},
+        {u"grid"_qs, {1, 1, printGrid}},
+        {u"colors"_qs, {1, 1, printColours}},
+        {u"check"_qs, {2, 2, [](Robot& r, const Words& w) { checkEntries(r, w, Qt::Checked); }}},
+        {u"uncheck"_qs, {2, 2, [](Robot& r, const Words& w) { checkEntries(r, w, Qt::Unchecked); }}},
+        {u"menu"_qs, {1, 1, chooseMenuEntry}},
+    };
+    return table;
+}
