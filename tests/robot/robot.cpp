@@ -74,10 +74,22 @@ void Robot::step() {
         execute(*command);
         return;
     }
+    if (QWidget* front = frontWindow()) {
+        closeLeftOpen(front);
+        return;
+    }
     m_finished = true;
     if (m_program)
         m_program->closeAll();
     QApplication::exit(0);
+}
+
+/// A screen that the script left open is still on the stack; the frame may go only after it.
+void Robot::closeLeftOpen(QWidget* front) {
+    if (front->close())
+        return;
+    std::fflush(stdout);
+    std::_Exit(0);
 }
 
 void Robot::execute(const Command& command) {

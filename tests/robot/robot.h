@@ -43,6 +43,7 @@ private:
     void step();
     [[nodiscard]] static QWidget* frontWindow();
     [[nodiscard]] bool mustWait() const;
+    static void closeLeftOpen(QWidget* front);
     void execute(const Command& command);
     [[noreturn]] void fail(const QString& why) const;
 

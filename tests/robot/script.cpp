@@ -45,12 +45,17 @@ std::optional<QString> readLine(std::FILE* input) {
     return QString::fromStdString(bytes);
 }
 
+/// A number sign in front of a digit names a row by its position.
+bool startsComment(const QString& line, qsizetype at) {
+    return line[at] == u'#' && !(at + 1 < line.size() && line[at + 1].isDigit());
+}
+
 } // namespace
 
 QStringList splitWords(const QString& line) {
     QStringList words;
     qsizetype at = 0;
-    while (at < line.size() && line[at] != u'#') {
+    while (at < line.size() && !startsComment(line, at)) {
         if (line[at].isSpace())
             ++at;
         else

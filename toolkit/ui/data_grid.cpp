@@ -48,8 +48,8 @@ void DataGrid::setDataSet(data::DataSet* set) {
     m_model->setDataSet(set);
     if (!set)
         return;
-    connect(set, &data::DataSet::cursorMoved, this, &DataGrid::followCursor);
-    connect(set, &data::DataSet::reset, this, &DataGrid::followCursor);
+    for (const auto signal : {&data::DataSet::opened, &data::DataSet::cursorMoved, &data::DataSet::reset})
+        connect(set, signal, this, &DataGrid::followCursor);
     followCursor();
 }
 

@@ -13,11 +13,13 @@ void GridModel::setDataSet(data::DataSet* set) {
     endResetModel();
     if (!set)
         return;
-    connect(set, &data::DataSet::reset, this, [this] {
+    const auto readAnew = [this] {
         beginResetModel();
         takeFields();
         endResetModel();
-    });
+    };
+    for (const auto signal : {&data::DataSet::opened, &data::DataSet::closed, &data::DataSet::reset})
+        connect(set, signal, this, readAnew);
     connect(set, &data::DataSet::recordChanged, this, &GridModel::recordChanged);
     connect(set, &data::DataSet::rowAboutToBeInserted, this, [this](int row) { beginInsertRows({}, row, row); });
     connect(set, &data::DataSet::rowInserted, this, &GridModel::endInsertRows);
