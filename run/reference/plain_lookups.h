@@ -7,7 +7,7 @@ namespace run {
 
 /// Looks everything up the plain way: one statement for each lookup, at the moment it is asked for. Slow; it is the
 /// measure of what a run has to yield.
-class PlainLookups final : public Lookups {
+class PlainLookups : public Lookups {
 public:
     PlainLookups(db::Connection& main, db::Connection& app, const Selections& selections);
 
