@@ -1,0 +1,53 @@
+#pragma once
+
+#include "toolkit/report/captions.h"
+#include "toolkit/report/report.h"
+
+namespace payroll {
+
+/// What the papers say beside their data.
+struct Heading {
+    QString ppl_nama_persh;
+    QString ppl_tgl_aw; ///< the register's dates, as text
+    QString ppl_tgl_ak;
+    QString ppl_user;
+    QString tgl_cetak;
+};
+
+/// The sets that the papers print; the last two belong to the first by `emp_id_auto`.
+struct Sources {
+    data::DataSet& sql_detail;
+    data::DataSet& sql_subdetail;
+    data::DataSet& sql_subdetail2;
+};
+
+struct Wording {
+    const report::Captions& captions;
+    const Heading& heading;
+};
+
+[[nodiscard]] report::Report recapDesign(const Sources& sources, const Wording& wording);
+[[nodiscard]] report::Report detailDesign(const Sources& sources, const Wording& wording);
+[[nodiscard]] report::Report slipDesign(const Sources& sources, const Wording& wording);
+
+/// Where a caption, " : " and a value stand beside each other; millimetres.
+struct Column {
+    double x = 0;
+    double captionWidth = 0;
+    double width = 0; ///< of all three
+};
+
+/// Where the value of the column stands.
+[[nodiscard]] report::Place valuePlace(const Column& column);
+void addCaption(report::Band& band, const Column& column, const QString& caption, report::Look look = {});
+void addValue(report::Band& band, const Column& column, const QString& caption, report::Item value);
+void addPeriod(report::Band& band, const Column& column, const Wording& wording);
+
+/// Title, company and period at the top of the lists.
+[[nodiscard]] std::vector<report::Band> titleBands(const QString& title, const Wording& wording);
+/// "Halaman : n dari : m Tgl. Cetak : ... Oleh : ..." at the bottom of the lists.
+[[nodiscard]] report::Band pageNumberBand(const report::PageInfo& page, const Wording& wording);
+
+inline constexpr double listWidth = 200.66; ///< of 8.5 inches without the margins
+
+} // namespace payroll
