@@ -64,6 +64,7 @@ public:
 
     [[nodiscard]] QByteArray transcript() {
         openDatabase();
+        readOptions();
         for (const Step& step : m_steps)
             step.isDirective ? obey(step.text) : tell(step.text);
         finish();
@@ -90,14 +91,16 @@ private:
                                      .port = server.port});
     }
 
+    void readOptions() {
+        for (const Step& step : m_steps)
+            if (step.isDirective && step.text.startsWith(QLatin1String("options ")))
+                m_options = QProcess::splitCommand(step.text.mid(8));
+    }
+
     void obey(const QString& directive) {
         const QString verb = directive.section(u' ', 0, 0);
         const QString rest = directive.mid(verb.size()).trimmed();
-        if (verb == QLatin1String("options")) {
-            m_options = QProcess::splitCommand(rest);
-            return;
-        }
-        if (verb == QLatin1String("company"))
+        if (verb == QLatin1String("options") || verb == QLatin1String("company"))
             return;
         waitForRobot();
         if (verb == QLatin1String("main"))
@@ -149,7 +152,7 @@ private:
 
     void finish() {
         m_robot.closeWriteChannel();
-        if (!m_robot.waitForFinished(patience))
+        if (m_robot.state() != QProcess::NotRunning && !m_robot.waitForFinished(patience))
             throw std::runtime_error("the robot does not end; so far:\n" + m_transcript.toStdString());
         m_transcript += m_robot.readAllStandardOutput() + m_robot.readAllStandardError();
         if (m_robot.exitStatus() == QProcess::CrashExit || m_robot.exitCode() != 0)
@@ -184,7 +187,7 @@ int runCase(const QStringList& arguments) {
     if (arguments.size() < 3)
         throw std::runtime_error("usage: robot_case ROBOT CASE.robot [--update]");
     const QString script = arguments[2];
-    Case robotCase(arguments[1], stepsOf(QString::fromUtf8(readFile(script))));
+    Case robotCase(QFileInfo(arguments[1]).absoluteFilePath(), stepsOf(QString::fromUtf8(readFile(script))));
     const QByteArray transcript = robotCase.transcript();
     const QString expected = script.left(script.size() - 5) + QStringLiteral("expected");
     if (!arguments.contains(QStringLiteral("--update")))

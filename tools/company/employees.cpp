@@ -6,6 +6,8 @@
 
 #include <QDateTime>
 
+#include <stdexcept>
+
 using namespace Qt::StringLiterals;
 
 namespace company {
@@ -67,6 +69,8 @@ void giveDates(Employee& employee, const Period& period, Dice& dice) {
 } // namespace
 
 Period periodOf(const Options& options) {
+    if (!options.lastMonth.isValid())
+        throw std::invalid_argument("a company needs the last month of its attendance");
     const QDate month(options.lastMonth.year(), options.lastMonth.month(), 1);
     return {month.addMonths(1 - options.months), month.addMonths(1).addDays(-1)};
 }
