@@ -3,14 +3,18 @@
 #include "frame/base/connect.h"
 #include "frame/base/fr_userlog.h"
 #include "frame/base/log.h"
+#include "frame/window/recap.h"
 #include "schema/settings_keys.h"
 #include "toolkit/data/drop_fault.h"
 #include "toolkit/ui/handler.h"
+#include "toolkit/ui/wait_cursor.h"
 #include "ui_fr_menu.h"
 
+#include <QApplication>
+#include <QCloseEvent>
 #include <QEvent>
 
-#include <stdexcept>
+#include <chrono>
 #include <utility>
 
 namespace {
@@ -20,13 +24,8 @@ constexpr qreal imageMagnification = 2.0;
 /// The per-user value that frees a session from any branch, as an empty one does.
 const QString allBranches = QStringLiteral("{3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}");
 
-qint32 integerOf(const QString& text) {
-    bool isNumber = false;
-    const qint32 number = text.toInt(&isNumber);
-    if (!isNumber)
-        throw std::invalid_argument(QStringLiteral("'%1' is not a valid integer value").arg(text).toStdString());
-    return number;
-}
+/// The place in cmb_filter at which employees are ticked one by one; the list ends before it.
+constexpr int criteriaItem = 7;
 
 } // namespace
 
@@ -35,10 +34,40 @@ Tfrm_menu::Tfrm_menu(QString folder, frame::Clock clock, frame::UserSettingReade
     m_services(std::move(clock), this) {
     m_ui->setupUi(this);
     m_ui->StatusBar->setPanelCount(panelCount);
-    onEvent(m_ui->btn_userlog, &QPushButton::clicked, this, &Tfrm_menu::btn_userlogClick);
+    m_ui->filter->attach(m_session);
+    m_ui->pnl_emp->hide();
+    setUpRecap();
+    connectHandlers();
+    for (const Icon icon : {KomponenGaji, ProsesPenggajian, PinjamanKaryawan})
+        setWorkspace(icon, {});
 }
 
-Tfrm_menu::~Tfrm_menu() = default;
+Tfrm_menu::~Tfrm_menu() {
+    // The grid must not look at the rows while they go.
+    m_ui->dbg_rekap->setDataSet(nullptr);
+}
+
+void Tfrm_menu::setUpRecap() {
+    m_ui->dbg_rekap->setColumns(recap::columns(), recap::bands());
+    m_ui->dbg_rekap->setCellColour([this](const CellInView& cell) { return recap::cellColour(m_colours, cell); });
+    m_ui->dbg_rekap->setEnabled(false);
+}
+
+void Tfrm_menu::connectHandlers() {
+    const std::array images{m_ui->Image1, m_ui->Image2, m_ui->Image3};
+    const std::array labels{m_ui->lbl_1, m_ui->lbl_2, m_ui->lbl_3};
+    for (const Icon icon : {KomponenGaji, ProsesPenggajian, PinjamanKaryawan}) {
+        const auto open = [this, icon] { runHandler(this, [this, icon] { openWorkspace(icon); }); };
+        connect(images[icon], &MagnifyingImage::clicked, this, open);
+        connect(labels[icon], &ClickLabel::clicked, this, open);
+    }
+    onEvent(m_ui->filter, &frame::FilterBlock::searchWanted, this, &Tfrm_menu::btn_cariClick);
+    onEvent(m_ui->filter, &frame::FilterBlock::valueChosen, this, &Tfrm_menu::criteriaChosen);
+    onEvent(m_ui->btn_userlog, &QPushButton::clicked, this, &Tfrm_menu::btn_userlogClick);
+    Timer1.setSingleShot(true);
+    Timer1.setInterval(std::chrono::seconds(1));
+    onEvent(&Timer1, &QTimer::timeout, this, &Tfrm_menu::Timer1Timer);
+}
 
 bool Tfrm_menu::FormCreate() {
     try {
@@ -51,6 +80,8 @@ bool Tfrm_menu::FormCreate() {
         image->setMagnification(imageMagnification);
     data::dropFault("opening the sessions", [this] { frame::openSessions(m_folder, *m_ping, m_session); });
     first_activate = m_session.ADOConn.isOpen();
+    if (first_activate)
+        Timer1.start();
     return first_activate;
 }
 
@@ -78,11 +109,22 @@ void Tfrm_menu::FormActivate() {
         return;
     m_services.language.ApplyLanguage(*this);
     read_change_lang();
-    sql_cab.openSql(QStringLiteral("select * from cabang"));
-    sql_jbt.openSql(QStringLiteral("select * from func"));
+    m_ui->filter->fillTree();
+    m_ui->filter->openLookups();
     read_periode();
+    m_colours = recap::readColourSettings(m_session);
     read_session_cab();
+    btn_cariClick();
     qCInfo(frame::startLog) << "running";
+}
+
+void Tfrm_menu::closeEvent(QCloseEvent* event) {
+    Timer1.stop();
+    m_frm_warning.reset();
+    m_ui->filter->closeLookups();
+    if (sql_rekap)
+        sql_rekap->close();
+    QMainWindow::closeEvent(event);
 }
 
 void Tfrm_menu::read_change_lang() {
@@ -112,9 +154,74 @@ void Tfrm_menu::read_session_cab() {
     if (value == allBranches || value.trimmed().isEmpty())
         return;
     m_session.session_cab_id = value.mid(value.indexOf(u':') + 1);
-    filter_cab_id = integerOf(m_session.session_cab_id);
+    m_ui->filter->applySessionBranch();
+}
+
+void Tfrm_menu::btn_cariClick() {
+    const WaitCursor waiting;
+    QString condition = frame::employeesAtWork() + m_ui->filter->conditionByName();
+    if (m_ui->filter->index() == criteriaItem)
+        condition += m_ui->pnl_emp->BuildCriteriaFilter(m_services.messages);
+    // The grid keeps its rows until the new ones are there.
+    auto found = recap::open(m_session.ADOConn, {condition, m_ui->dtp_tgl_aw->date(), m_ui->dtp_tgl_akh->date()});
+    m_ui->dbg_rekap->setDataSet(found.get());
+    sql_rekap = std::move(found);
+    FitGridColumns(*m_ui->dbg_rekap);
+}
+
+void Tfrm_menu::criteriaChosen() {
+    if (m_ui->filter->index() == frame::FilterBlock::Pin)
+        m_ui->pnl_emp->FillEmpCheckList(m_session);
 }
 
 void Tfrm_menu::btn_userlogClick() {
     Tfrm_userlog(m_services, m_session.login_id, frame::payrollModule, this).exec();
+}
+
+void Tfrm_menu::Timer1Timer() {
+    if (!m_frm_warning)
+        m_frm_warning = std::make_unique<Tfrm_warning>(m_services.language);
+    // Some window systems make every new window the active one; the user's stays it.
+    QWidget* active = QApplication::activeWindow();
+    m_frm_warning->show();
+    if (active)
+        active->activateWindow();
+}
+
+void Tfrm_menu::setWorkspace(Icon icon, WorkspaceFactory factory) {
+    const std::array images{m_ui->Image1, m_ui->Image2, m_ui->Image3};
+    const std::array labels{m_ui->lbl_1, m_ui->lbl_2, m_ui->lbl_3};
+    images[icon]->setEnabled(bool(factory));
+    labels[icon]->setEnabled(bool(factory));
+    m_factories[icon] = std::move(factory);
+}
+
+void Tfrm_menu::CloseChildForms() {
+    m_ui->pnl_tengah->show();
+    if (m_workspace)
+        m_workspace->close();
+}
+
+void Tfrm_menu::showRecap(bool visible) {
+    m_ui->pnl_tengah->setVisible(visible);
+    m_ui->pnl_judul->setVisible(visible);
+}
+
+void Tfrm_menu::openWorkspace(Icon icon) {
+    if (!m_ui->pnl_atas->isEnabled())
+        return;
+    m_ui->pnl_atas->setEnabled(false);
+    // Only after what waits in the event queue: the second of two fast clicks must find the panel disabled.
+    QTimer::singleShot(0, m_ui->pnl_atas, [panel = m_ui->pnl_atas] { panel->setEnabled(true); });
+    m_ui->filter->select(frame::FilterBlock::Semua);
+    CloseChildForms();
+    m_workspace = m_factories[icon](m_services, m_ui->centralwidget);
+    connect(m_workspace, &Workspace::coversPanels, this, [this] { showRecap(false); });
+    connect(m_workspace, &Workspace::closed, this, [this, closing = m_workspace.data()] {
+        if (m_workspace == closing)
+            m_workspace = nullptr;
+        showRecap(true);
+    });
+    m_ui->lay_frame->addWidget(m_workspace, 1);
+    m_workspace->show();
 }

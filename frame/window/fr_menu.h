@@ -1,16 +1,24 @@
 #pragma once
 
-#include "frame/base/services.h"
+#include "frame/base/workspace.h"
+#include "frame/window/fr_warning.h"
+#include "frame/window/recap_colours.h"
 #include "toolkit/platform/host.h"
 
 #include <QMainWindow>
+#include <QPointer>
 
+#include <array>
+#include <functional>
 #include <memory>
 #include <optional>
 
 namespace Ui {
 class frm_menu;
 }
+
+/// Makes a workspace; the parent frees it at the latest.
+using WorkspaceFactory = std::function<Workspace*(frame::Services& services, QWidget* parent)>;
 
 /// The frame: owns the session that every screen borrows, and shows the attendance of a period while no workspace is
 /// open.
@@ -19,6 +27,8 @@ class Tfrm_menu final : public QMainWindow {
 
 public:
     static constexpr int panelCount = 5;
+    /// The icons that open workspaces, from the left.
+    enum Icon { KomponenGaji, ProsesPenggajian, PinjamanKaryawan, iconCount };
 
     Tfrm_menu(QString folder, frame::Clock clock, frame::UserSettingReader readUserSetting);
     ~Tfrm_menu() override;
@@ -28,15 +38,28 @@ public:
     [[nodiscard]] frame::Session& session() { return m_session; }
     /// Panel 0 names the current user to every screen.
     void setPanelText(int index, const QString& text);
+    /// What the icon opens. An icon without a workspace is disabled.
+    void setWorkspace(Icon icon, WorkspaceFactory factory);
+    /// Shows the recap's panel and closes every workspace.
+    void CloseChildForms();
     /// Restores the window if it is minimised and raises it.
     void comeForward();
 
 protected:
     bool event(QEvent* event) override;
+    void closeEvent(QCloseEvent* event) override;
 
 private:
     void FormActivate();
+    void btn_cariClick();
     void btn_userlogClick();
+    void Timer1Timer();
+    void criteriaChosen();
+
+    void connectHandlers();
+    void setUpRecap();
+    void openWorkspace(Icon icon);
+    void showRecap(bool visible);
     void read_change_lang();
     void read_periode();
     void read_session_cab();
@@ -47,8 +70,11 @@ private:
     frame::Services m_services;
     frame::Session& m_session = m_services.session;
     std::optional<platform::PingSocket> m_ping;
-    data::SqlQuery sql_cab{m_session.ADOConn};
-    data::SqlQuery sql_jbt{m_session.ADOConn};
-    qint32 filter_cab_id = 0; ///< branch chosen in lookup_cab, 0 for none
+    std::array<WorkspaceFactory, iconCount> m_factories;
+    QPointer<Workspace> m_workspace; ///< the one that is open
+    recap::ColourSettings m_colours;
+    std::unique_ptr<data::SqlQuery> sql_rekap;
+    QTimer Timer1; ///< shows the quick guide a second after the start
+    std::unique_ptr<Tfrm_warning> m_frm_warning;
     bool first_activate = false;
 };

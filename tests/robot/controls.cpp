@@ -13,6 +13,11 @@ bool isForm(const QWidget* widget) {
     return widget->isVisible() && widget->objectName().startsWith(QLatin1String("frm_"), Qt::CaseInsensitive);
 }
 
+/// A window that takes no focus when it appears is no form to work on; it is spoken to by its name.
+bool showsBehind(const QWidget* window) {
+    return window->testAttribute(Qt::WA_ShowWithoutActivating);
+}
+
 bool sameName(const QString& a, const QString& b) {
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
@@ -21,6 +26,9 @@ QWidget* formByName(const FormOrder& forms, const QString& name) {
     for (QWidget* form : forms.openForms())
         if (sameName(form->objectName(), name))
             return form;
+    for (QWidget* window : QApplication::topLevelWidgets())
+        if (isForm(window) && sameName(window->objectName(), name))
+            return window;
     return nullptr;
 }
 
@@ -41,7 +49,8 @@ FormOrder::FormOrder(QObject* parent) : QObject(parent) {
 
 bool FormOrder::eventFilter(QObject* watched, QEvent* event) {
     auto* widget = qobject_cast<QWidget*>(watched);
-    if (widget && widget->isWindow() && (event->type() == QEvent::WindowActivate || event->type() == QEvent::Show)) {
+    const bool comesForward = event->type() == QEvent::WindowActivate || event->type() == QEvent::Show;
+    if (widget && widget->isWindow() && comesForward && !showsBehind(widget)) {
         std::erase(m_windows, widget);
         m_windows.push_back(widget);
     } else if (event->type() == QEvent::Destroy || event->type() == QEvent::Hide) {

@@ -1,0 +1,201 @@
+#include "frame/base/filter_block.h"
+
+#include "frame/base/dept_tree.h"
+#include "toolkit/text/sql_text.h"
+#include "toolkit/ui/handler.h"
+#include "ui_filter_block.h"
+
+#include <stdexcept>
+
+namespace frame {
+
+namespace {
+
+const QString allBranches = QStringLiteral("0");
+
+qint32 branchOf(const QString& text) {
+    bool isNumber = false;
+    const qint32 number = text.toInt(&isNumber);
+    if (!isNumber)
+        throw std::invalid_argument(QStringLiteral("'%1' is not a valid integer value").arg(text).toStdString());
+    return number;
+}
+
+/// The key of the lookup's current record where the box shows one, else 0.
+qint32 keyOf(const LookupBox& box, const data::SqlQuery& query, QStringView field) {
+    return box.text().isEmpty() ? 0 : query.integer32(field);
+}
+
+} // namespace
+
+QString employeesAtWork() {
+    return QStringLiteral("where emp_id_auto<>-1 and emp_status=0 ");
+}
+
+FilterBlock::FilterBlock(QWidget* parent) : QWidget(parent), m_ui(std::make_unique<Ui::FilterBlock>()) {
+    m_ui->setupUi(this);
+    for (const int field : {Pin, Nik, Nama})
+        m_controls.insert(field, m_ui->edt_filter);
+    m_controls.insert(Cabang, m_ui->lookup_cab);
+    m_controls.insert(Departemen, m_ui->TCB_dept);
+    m_controls.insert(Departemen, m_ui->chb_sub);
+    m_controls.insert(Jabatan, m_ui->lookup_jbt);
+    showControlOf(Semua);
+    connectControls();
+}
+
+FilterBlock::~FilterBlock() = default;
+
+void FilterBlock::connectControls() {
+    onEvent(m_ui->cmb_filter, &QComboBox::activated, this, &FilterBlock::cmb_filterCloseUp);
+    onEvent(m_ui->lookup_cab, &LookupBox::closedUp, this, &FilterBlock::lookup_cabCloseUp);
+    onEvent(m_ui->lookup_jbt, &LookupBox::closedUp, this, &FilterBlock::lookup_jbtCloseUp);
+    onEvent(m_ui->TCB_dept, &TreeBox::closedUp, this, &FilterBlock::TCB_deptCloseUp);
+    connect(m_ui->btn_cari, &QPushButton::clicked, this, &FilterBlock::searchWanted);
+    connect(m_ui->edt_filter, &QLineEdit::returnPressed, this, &FilterBlock::searchWanted);
+}
+
+void FilterBlock::attach(Session& session) {
+    m_session = &session;
+    sql_cab = new data::SqlQuery(session.ADOConn, QStringLiteral("select * from cabang"), this);
+    sql_jbt = new data::SqlQuery(session.ADOConn, QStringLiteral("select * from func"), this);
+    m_ui->lookup_cab->setSource(sql_cab, QStringLiteral("cab_id_auto"), QStringLiteral("cab_name"));
+    m_ui->lookup_jbt->setSource(sql_jbt, QStringLiteral("func_id_auto"), QStringLiteral("func_name"));
+}
+
+int FilterBlock::addItem(const QString& text, QWidget* control) {
+    m_ui->cmb_filter->addItem(text);
+    const int index = m_ui->cmb_filter->count() - 1;
+    if (control) {
+        m_ui->lay_filter->insertWidget(m_ui->lay_filter->indexOf(m_ui->chb_sub), control);
+        control->hide();
+        m_controls.insert(index, control);
+    }
+    return index;
+}
+
+void FilterBlock::openLookups() {
+    sql_cab->reopen();
+    sql_jbt->reopen();
+}
+
+void FilterBlock::closeLookups() {
+    sql_cab->close();
+    sql_jbt->close();
+}
+
+void FilterBlock::fillTree() {
+    FillDeptTree(*m_ui->TCB_dept, *m_session);
+    m_filter_dept_path = m_ui->TCB_dept->text();
+}
+
+void FilterBlock::applySessionBranch() {
+    if (m_session->session_cab_id == allBranches)
+        return;
+    m_filter_cab_id = branchOf(m_session->session_cab_id);
+    m_ui->lookup_cab->setKey(m_filter_cab_id);
+    m_ui->lookup_cab->setEnabled(false);
+}
+
+int FilterBlock::index() const {
+    return m_ui->cmb_filter->currentIndex();
+}
+
+void FilterBlock::select(int index) {
+    m_ui->cmb_filter->setCurrentIndex(index);
+    cmb_filterCloseUp();
+}
+
+QString FilterBlock::text() const {
+    return m_ui->edt_filter->text();
+}
+
+void FilterBlock::showControlOf(int index) {
+    for (QWidget* control : std::as_const(m_controls))
+        control->hide();
+    for (QWidget* control : m_controls.values(index))
+        control->show();
+}
+
+void FilterBlock::cmb_filterCloseUp() {
+    fillTree();
+    for (LookupBox* box : {m_ui->lookup_cab, m_ui->lookup_jbt})
+        box->clearChoice();
+    m_filter_cab_id = 0;
+    m_filter_func_id = 0;
+    m_ui->edt_filter->clear();
+    showControlOf(index());
+    applySessionBranch();
+}
+
+void FilterBlock::lookup_cabCloseUp() {
+    m_filter_cab_id = keyOf(*m_ui->lookup_cab, *sql_cab, u"cab_id_auto");
+    Q_EMIT valueChosen();
+}
+
+void FilterBlock::lookup_jbtCloseUp() {
+    m_filter_func_id = keyOf(*m_ui->lookup_jbt, *sql_jbt, u"func_id_auto");
+    Q_EMIT valueChosen();
+}
+
+void FilterBlock::TCB_deptCloseUp() {
+    m_filter_dept_path = deptPath(*m_ui->TCB_dept);
+    Q_EMIT valueChosen();
+}
+
+QString FilterBlock::baseCondition() const {
+    if (m_session->session_cab_id == allBranches)
+        return employeesAtWork();
+    return employeesAtWork() + QStringLiteral("and cab_id_auto=") + m_session->session_cab_id + u' ';
+}
+
+QString FilterBlock::textCondition() const {
+    if (text().isEmpty())
+        return {};
+    switch (index()) {
+    case Pin:
+        return QStringLiteral(" and pin = ") + quotedSqlText(text()) + u' ';
+    case Nik:
+        return QStringLiteral(" and nik = ") + quotedSqlText(text()) + u' ';
+    case Nama:
+        return QStringLiteral(" and nama like ") + quotedSqlText(text() + u'%') + u' ';
+    default:
+        return {};
+    }
+}
+
+QString FilterBlock::deptCondition() const {
+    if (m_ui->TCB_dept->text().isEmpty())
+        return {};
+    const QString below = m_ui->chb_sub->isChecked() ? QStringLiteral("%") : QString();
+    return QStringLiteral(" and dept_name like ") + quotedSqlText(m_filter_dept_path + below) + u' ';
+}
+
+QString FilterBlock::conditionByKey() const {
+    switch (index()) {
+    case Cabang:
+        if (m_ui->lookup_cab->text().isEmpty() && m_filter_cab_id == 0)
+            return {};
+        return QStringLiteral(" and cab_id_auto=%1 ").arg(m_filter_cab_id);
+    case Departemen:
+        return deptCondition();
+    case Jabatan:
+        if (m_ui->lookup_jbt->text().isEmpty() && m_filter_func_id == 0)
+            return {};
+        return QStringLiteral(" and func_id_auto=%1 ").arg(m_filter_func_id);
+    default:
+        return textCondition();
+    }
+}
+
+QString FilterBlock::conditionByName() const {
+    QString condition = textCondition();
+    if (!m_ui->lookup_cab->text().isEmpty() && m_filter_cab_id != 0)
+        condition += QStringLiteral(" and cab_name=") + quotedSqlText(m_ui->lookup_cab->text()) + u' ';
+    condition += deptCondition();
+    if (!m_ui->lookup_jbt->text().isEmpty() && m_filter_func_id != 0)
+        condition += QStringLiteral(" and func_name=") + quotedSqlText(m_ui->lookup_jbt->text()) + u' ';
+    return condition;
+}
+
+} // namespace frame

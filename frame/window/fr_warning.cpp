@@ -1,0 +1,95 @@
+#include "frame/window/fr_warning.h"
+
+#include "ui_fr_warning.h"
+
+#include <QCloseEvent>
+#include <QMouseEvent>
+#include <QWindow>
+
+#include <chrono>
+
+namespace {
+
+constexpr int opaque = 255;
+constexpr int fadeStep = 3;
+constexpr QSize guideSize(54, 28); // in lines of text, the shape of the drawing
+constexpr int drawingHeight = 520; // in the drawing's own units, like the strips below
+
+} // namespace
+
+Tfrm_warning::Tfrm_warning(frame::Language& language) :
+    QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), m_ui(std::make_unique<Ui::frm_warning>()) {
+    m_ui->setupUi(this);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_QuitOnClose, false);
+    fitToDrawing();
+    for (auto* label : findChildren<QLabel*>())
+        label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_ui->Image2->installEventFilter(this);
+    fadeTimer.setInterval(std::chrono::milliseconds(1));
+    connect(&fadeTimer, &QTimer::timeout, this, &Tfrm_warning::fadeTimerTimer);
+    connect(m_ui->Image1, &QToolButton::clicked, this, &QWidget::close);
+    language.ApplyLanguage(*this);
+}
+
+Tfrm_warning::~Tfrm_warning() = default;
+
+void Tfrm_warning::fitToDrawing() {
+    setFixedSize(fontMetrics().height() * guideSize);
+    const auto setShare = [this](QWidget* strip, int share) {
+        strip->setFixedHeight(height() * share / drawingHeight);
+    };
+    setShare(m_ui->pnl_judul, 78);
+    setShare(m_ui->pnl_jalan, 170);
+    setShare(m_ui->pnl_langkah, 204);
+    setShare(m_ui->lbl_catatan, 68);
+}
+
+void Tfrm_warning::showEvent(QShowEvent* event) {
+    QWidget::showEvent(event);
+    if (event->spontaneous())
+        return;
+    m_state = State::FadingIn;
+    m_opacity = 0;
+    setWindowOpacity(0);
+    fadeTimer.start();
+}
+
+void Tfrm_warning::fadeTimerTimer() {
+    m_opacity = m_state == State::FadingIn ? std::min(m_opacity + fadeStep, opaque) : std::max(m_opacity - fadeStep, 0);
+    setWindowOpacity(double(m_opacity) / opaque);
+    if (m_state == State::FadingIn && m_opacity == opaque)
+        fadeTimer.stop();
+    if (m_state == State::FadingOut && m_opacity == 0) {
+        fadeTimer.stop();
+        close();
+    }
+}
+
+void Tfrm_warning::closeEvent(QCloseEvent* event) {
+    if (m_state == State::FadingOut) {
+        event->setAccepted(m_opacity == 0);
+        return;
+    }
+    event->ignore();
+    m_state = State::FadingOut;
+    m_opacity = opaque;
+    fadeTimer.start();
+}
+
+bool Tfrm_warning::eventFilter(QObject* watched, QEvent* event) {
+    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove)
+        drag(*static_cast<QMouseEvent*>(event));
+    return QWidget::eventFilter(watched, event);
+}
+
+void Tfrm_warning::drag(const QMouseEvent& event) {
+    if (!(event.buttons() & Qt::LeftButton))
+        return;
+    const QPoint at = event.globalPosition().toPoint();
+    if (event.type() == QEvent::MouseMove)
+        move(at - m_grip);
+    // Some window systems let no program place its windows and move them by themselves.
+    else if (!windowHandle()->startSystemMove())
+        m_grip = at - pos();
+}

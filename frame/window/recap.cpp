@@ -1,0 +1,166 @@
+#include "frame/window/recap.h"
+
+using namespace Qt::StringLiterals;
+
+namespace recap {
+
+namespace {
+
+/// How a column of the recap departs from the figure of a payroll run.
+enum class Rule {
+    AsInRun,
+    EveryRow,     ///< its amount sums all rows, so a total may exceed the sum of its parts
+    WithPresence, ///< only rows with a duration
+    InDays,       ///< a number of days whatever the settings say
+};
+
+struct RecapFigure {
+    QLatin1String column;
+    int id_kode_report;
+    Rule rule = Rule::AsInRun;
+};
+
+constexpr RecapFigure figures[] = {
+    {"late"_L1, 1, Rule::EveryRow},
+    {"early"_L1, 2, Rule::EveryRow},
+    {"istirahat_lebih"_L1, 3, Rule::WithPresence},
+    {"kehadiran"_L1, run::figureHadir, Rule::InDays},
+    {"hadir"_L1, run::figureHadir},
+    {"hadir_normal"_L1, 19},
+    {"hadir_libur"_L1, 18},
+    {"hadir_libur_umum"_L1, 20},
+    {"hadir_libur_rutin"_L1, 21},
+    {"hadir_izin"_L1, 22},
+    {"tidak_hadir"_L1, 5},
+    {"izin"_L1, run::figureIzin},
+    {"cuti"_L1, run::figureCuti},
+    {"sakit"_L1, run::figureSakit},
+    {"libur"_L1, run::figureLibur},
+    {"lembur"_L1, 13, Rule::EveryRow},
+    {"lembur_normal"_L1, 23},
+    {"lembur_libur"_L1, 24},
+    {"lembur_libur_umum"_L1, 25},
+    {"lembur_libur_rutin"_L1, 26},
+    {"lembur_jam"_L1, 27},
+    {"lembur_shift"_L1, 28},
+    {"cadangan1"_L1, 10},
+    {"cadangan2"_L1, 11},
+    {"cadangan3"_L1, 12},
+    {"aktiv"_L1, 14},
+    {"aktiv2"_L1, 15},
+    {"aktiv3"_L1, 16},
+};
+
+const run::FigurePart& everyRow() {
+    static const run::FigurePart part{run::findFigure(1)->parts.front().table, ""_L1, ""_L1, ""_L1};
+    return part;
+}
+
+const run::FigurePart& withPresence(const run::FigurePart& part) {
+    static const QByteArray conditions =
+        QByteArray("sr.duration>0 and ") + QByteArray(part.conditions.data(), part.conditions.size());
+    static const run::FigurePart narrowed{part.table, QLatin1String(conditions), part.amount, part.days};
+    return narrowed;
+}
+
+run::BulkColumn columnOf(const run::Figure& figure, const run::FigurePart& part, Rule rule,
+                         const run::CountSettings& settings) {
+    if (rule == Rule::InDays)
+        return run::dayColumn(part);
+    if (rule == Rule::WithPresence)
+        return run::bulkColumn(figure, withPresence(part), settings);
+    run::BulkColumn column = run::bulkColumn(figure, part, settings);
+    if (rule == Rule::EveryRow && column.expression == part.amount)
+        column.part = &everyRow();
+    return column;
+}
+
+/// The derived tables of one statement: columns that can be read in one pass over their table share one.
+class Tables final {
+public:
+    /// The name under which the outer statement reads the column.
+    [[nodiscard]] QString place(const run::BulkColumn& column) {
+        const auto table = std::ranges::find_if(
+            m_tables, [&](const auto& columns) { return run::shareStatement(columns.front(), column); });
+        const auto number = table - m_tables.begin();
+        if (table == m_tables.end())
+            m_tables.emplace_back();
+        std::vector<run::BulkColumn>& columns = m_tables[std::size_t(number)];
+        columns.push_back(column);
+        return u"t%1.c%2"_s.arg(number).arg(columns.size());
+    }
+
+    /// "t0(...) as (...), t1 ..."
+    [[nodiscard]] QString definitions(const QString& employees) const {
+        QStringList tables;
+        for (std::size_t i = 0; i < m_tables.size(); ++i) {
+            QString names = u"emp_id_auto, hari"_s;
+            for (std::size_t column = 1; column <= m_tables[i].size(); ++column)
+                names += u", c%1"_s.arg(column);
+            tables << u"t%1(%2) as (%3)"_s.arg(i).arg(
+                names, run::statementForAll(m_tables[i], run::Grouping::ByEmployee, employees));
+        }
+        return tables.join(u",\n"_s);
+    }
+
+    [[nodiscard]] QString joins() const {
+        QString joins;
+        for (std::size_t i = 0; i < m_tables.size(); ++i)
+            joins += u" left join t%1 on t%1.emp_id_auto=k.emp_id_auto"_s.arg(i);
+        return joins;
+    }
+
+private:
+    std::vector<std::vector<run::BulkColumn>> m_tables;
+};
+
+QString valueOf(const RecapFigure& wanted, const run::CountSettings& settings, Tables& tables) {
+    const run::Figure& figure = *run::findFigure(wanted.id_kode_report);
+    QStringList parts;
+    for (const run::FigurePart& part : figure.parts)
+        parts << u"ifnull(%1, 0)"_s.arg(tables.place(columnOf(figure, part, wanted.rule, settings)));
+    const QString sum = parts.size() == 1 ? parts.front() : u"round(%1, 2)"_s.arg(parts.join(u'+'));
+    return sum + u" as "_s + wanted.column;
+}
+
+constexpr char16_t employees[] = uR"(select * from (
+    select e.emp_id_auto, e.pin, e.nik, e.emp_status, e.cab_id_auto, e.dept_id_auto, e.func_id_auto,
+        c.cab_name, d.level_id, d.dept_name, f.func_name, e.address, e.phone, e.ssn,
+        concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama,
+        SUBSTRING_INDEX(e.pin, '', 1) as col_str, SUBSTRING_INDEX(e.pin, ' ', -1) + 0 as col_num,
+        SUBSTRING_INDEX(e.nik, '', 1) as col_str2, SUBSTRING_INDEX(e.nik, ' ', -1) + 0 as col_num2
+    from emp as e left join cabang as c on e.cab_id_auto=c.cab_id_auto
+        left join dept as d on e.dept_id_auto=d.dept_id_auto
+        left join func as f on e.func_id_auto=f.func_id_auto) as e )";
+
+run::CountSettings readSettings(db::Connection& connection) {
+    run::CountSettings settings;
+    db::Result rows = connection.query(u"select sum_id, sum_as from sum_report"_s);
+    while (rows.next())
+        settings.insert(int(rows.integer(0)), int(rows.integer(1)));
+    return settings;
+}
+
+} // namespace
+
+QString statement(const QString& condition, const run::CountSettings& settings) {
+    Tables tables;
+    QStringList values;
+    for (const RecapFigure& figure : figures)
+        values << valueOf(figure, settings, tables);
+    // The condition narrows the employees first, so that a search for a few of them reads the days of those few only.
+    return u"with karyawan as ("_s + QString::fromUtf16(employees) + condition + u"),\n"_s +
+           tables.definitions(u"select emp_id_auto from karyawan"_s) + u"\nselect distinct k.*, "_s +
+           values.join(u", "_s) + u" from karyawan as k"_s + tables.joins() +
+           u" order by col_str, col_num, emp_id_auto "_s;
+}
+
+std::unique_ptr<data::SqlQuery> open(db::Connection& connection, const Question& question) {
+    auto query = std::make_unique<data::SqlQuery>(connection, statement(question.condition, readSettings(connection)));
+    query->setParameter(u"tanggal_awal"_s, question.tanggal_awal);
+    query->setParameter(u"tanggal_akhir"_s, question.tanggal_akhir.addDays(1));
+    query->open();
+    return query;
+}
+
+} // namespace recap
