@@ -3,6 +3,7 @@
 #include "ui_fr_warning.h"
 
 #include <QCloseEvent>
+#include <QGraphicsOpacityEffect>
 #include <QMouseEvent>
 #include <QWindow>
 
@@ -18,14 +19,17 @@ constexpr int drawingHeight = 520; // in the drawing's own units, like the strip
 } // namespace
 
 Tfrm_warning::Tfrm_warning(frame::Language& language) :
-    QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), m_ui(std::make_unique<Ui::frm_warning>()) {
+    QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), m_ui(std::make_unique<Ui::frm_warning>()),
+    m_fade(new QGraphicsOpacityEffect(this)) {
     m_ui->setupUi(this);
     setAttribute(Qt::WA_ShowWithoutActivating);
+    setAttribute(Qt::WA_TranslucentBackground);
     setAttribute(Qt::WA_QuitOnClose, false);
     fitToDrawing();
     for (auto* label : findChildren<QLabel*>())
         label->setAttribute(Qt::WA_TransparentForMouseEvents);
     m_ui->Image2->installEventFilter(this);
+    m_ui->Image2->setGraphicsEffect(m_fade);
     fadeTimer.setInterval(std::chrono::milliseconds(1));
     connect(&fadeTimer, &QTimer::timeout, this, &Tfrm_warning::fadeTimerTimer);
     connect(m_ui->Image1, &QToolButton::clicked, this, &QWidget::close);
@@ -51,13 +55,13 @@ void Tfrm_warning::showEvent(QShowEvent* event) {
         return;
     m_state = State::FadingIn;
     m_opacity = 0;
-    setWindowOpacity(0);
+    m_fade->setOpacity(0);
     fadeTimer.start();
 }
 
 void Tfrm_warning::fadeTimerTimer() {
     m_opacity = m_state == State::FadingIn ? std::min(m_opacity + fadeStep, opaque) : std::max(m_opacity - fadeStep, 0);
-    setWindowOpacity(double(m_opacity) / opaque);
+    m_fade->setOpacity(double(m_opacity) / opaque);
     if (m_state == State::FadingIn && m_opacity == opaque)
         fadeTimer.stop();
     if (m_state == State::FadingOut && m_opacity == 0) {

@@ -8,6 +8,8 @@
 
 #include <memory>
 
+class QGraphicsOpacityEffect;
+
 namespace Ui {
 class frm_warning;
 }
@@ -37,6 +39,7 @@ private:
 
     std::unique_ptr<Ui::frm_warning> m_ui;
     QTimer fadeTimer;
+    QGraphicsOpacityEffect* m_fade; ///< not the window's own opacity, which some window systems do not know
     State m_state = State::FadingIn;
     int m_opacity = 0; ///< 0 to 255
     QPoint m_grip;     ///< where the picture is held, from the window's corner

@@ -62,6 +62,8 @@ void setValue(QWidget* control, const QString& path, const QString& value) {
 }
 
 void chooseEntry(QWidget* control, const QString& path, const QString& text) {
+    if (chooseInTree(control, path, text))
+        return;
     auto* combo = qobject_cast<QComboBox*>(control);
     if (!combo)
         throw CommandError(QStringLiteral("%1 has nothing to choose from").arg(path));

@@ -5,10 +5,12 @@
 #include "tests/robot/pointer.h"
 #include "tests/robot/shown.h"
 #include "toolkit/ui/caption.h"
+#include "toolkit/ui/tree_box.h"
 
 #include <QApplication>
 #include <QListWidget>
 #include <QMenu>
+#include <QTreeWidget>
 #include <QtTest/qtestkeyboard.h>
 
 namespace {
@@ -161,7 +163,28 @@ void chooseMenuEntry(Robot&, const Words& words) {
     throw CommandError(QStringLiteral("the menu has no entry %1").arg(quoted(words[0])));
 }
 
+QTreeWidgetItem* childEntry(QTreeWidgetItem* parent, const QString& text) {
+    for (int i = 0; i < parent->childCount(); ++i)
+        if (parent->child(i)->text(0) == text)
+            return parent->child(i);
+    return nullptr;
+}
+
 } // namespace
+
+bool chooseInTree(QWidget* control, const QString& path, const QString& steps) {
+    auto* box = qobject_cast<TreeBox*>(control);
+    if (!box)
+        return false;
+    QTreeWidgetItem* entry = box->tree().invisibleRootItem();
+    for (const QString& step : steps.split(u'/'))
+        if (!(entry = childEntry(entry, step)))
+            throw CommandError(QStringLiteral("%1 has no entry %2").arg(path, quoted(steps)));
+    clickPoint(box, box->rect().center());
+    box->tree().scrollToItem(entry);
+    clickPoint(box->tree().viewport(), box->tree().visualItemRect(entry).center());
+    return true;
+}
 
 const Actions& gridActions() {
     static const Actions table{

@@ -14,6 +14,7 @@
 #include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTabWidget>
+#include <QTreeWidget>
 
 namespace {
 
@@ -30,6 +31,16 @@ QStringList listItems(const QListWidget* list) {
         const QListWidgetItem* item = list->item(i);
         const bool ticked = item->data(Qt::CheckStateRole).toInt() == Qt::Checked;
         items << (ticked ? QStringLiteral("[x] ") : QString()) + item->text();
+    }
+    return items;
+}
+
+QStringList treeItems(const QTreeWidgetItem& parent, const QString& path) {
+    QStringList items;
+    for (int i = 0; i < parent.childCount(); ++i) {
+        const QTreeWidgetItem& item = *parent.child(i);
+        items << path + item.text(0);
+        items << treeItems(item, items.last() + u'/');
     }
     return items;
 }
@@ -62,6 +73,8 @@ QString shownText(const QWidget* control) {
 
 QStringList shownItems(const QWidget* control) {
     QStringList items;
+    if (auto* tree = control->findChild<QTreeWidget*>())
+        return treeItems(*tree->invisibleRootItem(), {});
     if (const auto* combo = qobject_cast<const QComboBox*>(control)) {
         for (int i = 0; i < combo->count(); ++i)
             items << combo->itemText(i);
