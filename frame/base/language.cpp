@@ -5,6 +5,7 @@
 #include "toolkit/ui/grid_column.h"
 #include "toolkit/ui/input_dialog.h"
 #include "toolkit/ui/message_dialog.h"
+#include "toolkit/ui/named_text.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -75,6 +76,8 @@ void applyText(QObject* target, const QString& text, int no_index) {
         applyToDialog(*message, text, no_index);
     else if (auto* input = qobject_cast<InputDialog*>(target))
         applyToDialog(*input, text, no_index);
+    else if (auto* named = qobject_cast<NamedText*>(target))
+        named->setText(text);
 }
 
 } // namespace

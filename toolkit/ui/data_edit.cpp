@@ -58,9 +58,8 @@ void DataDateEdit::bind(data::DataSet& set, const QString& field) {
     m_set = &set;
     m_field = field;
     followSet(set, this, &DataDateEdit::showValue);
-    connect(this, &QDateEdit::dateChanged, this, [this](const QDate& date) {
-        runHandler(window(), [&] { m_set->editValue(m_field, date); });
-    });
+    connect(this, &QDateEdit::dateChanged, this,
+            [this](const QDate& date) { runHandler(window(), [&] { m_set->editValue(m_field, date); }); });
     showValue();
 }
 

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "toolkit/data/data_set.h"
+
+#include <functional>
+#include <optional>
+
+namespace frame {
+
+/// The ticks of a list lie in its field "pilih": -1 ticked, anything else not. They are never written back and are
+/// lost when the list is read again.
+enum class TickWish { All, None, Invert };
+
+/// Told of each row while it is current and before its tick is stored, with the new tick as text, "-1" or "0".
+using TickToggled = std::function<void(const QString& text)>;
+
+/// Ticks every row as wished. The bound views refresh once, at the end; the cursor stays on its row.
+void setTicks(data::DataSet& list, TickWish wish, const TickToggled& toggled = {});
+
+/// Calls the action on each ticked row while it is current; the cursor returns to its row afterwards.
+void forEachTicked(data::DataSet& list, const std::function<void()>& action);
+
+/// How many rows are ticked, and the place of the last of them.
+struct Ticked {
+    int count = 0;
+    int lastRow = -1;
+};
+[[nodiscard]] Ticked tickedRows(const data::DataSet& list);
+
+} // namespace frame

@@ -1,0 +1,288 @@
+#include "run/form/fr_isian_hitung_gaji.h"
+
+#include "frame/base/tick_list.h"
+#include "run/compute.h"
+#include "toolkit/data/clear_data_set.h"
+#include "toolkit/data/drop_fault.h"
+#include "toolkit/text/number_text.h"
+#include "toolkit/ui/busy_screen.h"
+#include "toolkit/ui/handler.h"
+#include "ui_fr_isian_hitung_gaji.h"
+
+#include <QApplication>
+#include <QLocale>
+
+#include <utility>
+
+namespace {
+
+constexpr int defaultPeriodDays = 30;
+
+const QString formName = QStringLiteral("frm_isian_hitung_gaji");
+const frame::MessageText nama_kosong{formName, 1, u"Nama perhitungan gaji harus diisi."_qs};
+const frame::MessageText lebih_200{formName, 2, u"Data pilih karyawan maksimal berisi 200 karyawan."_qs};
+const frame::MessageText tidak_ada_karyawan{formName, 3, u"Tidak ada karyawan yang dipilih"_qs};
+
+/// The groups that a session sees: all, or those with an employee of its branch.
+QString groupStatement(const QString& session_cab_id) {
+    if (session_cab_id == QLatin1String("0"))
+        return QStringLiteral("select * , 0 as pilih from z_pay_grp order by grp_name");
+    return QStringLiteral("SELECT *, 0 as pilih FROM (select * from z_pay_grp where grp_id in (select distinct grp_id "
+                          "from z_pay_grp_emp where emp_id_auto in (select distinct emp_id_auto from emp where "
+                          "cab_id_auto=%1)) ) as xxx order by grp_name ")
+        .arg(session_cab_id);
+}
+
+const QString componentStructure =
+    QStringLiteral("select com_id, com_kode, com_name, no_urut, 0 as pilih from z_pay_com where com_id=0");
+
+data::Field integerField(const QString& name) {
+    return {.name = name, .type = data::FieldType::Integer};
+}
+
+} // namespace
+
+Tfrm_isian_hitung_gaji::Tfrm_isian_hitung_gaji(frame::Services& services, RunFormTask task, QWidget* parent) :
+    Screen(services, parent), m_ui(std::make_unique<Ui::frm_isian_hitung_gaji>()), m_task(std::move(task)),
+    m_copy(services.session.ADOConn, {services.session.login_id, services.session.clock}),
+    sql_grp(services.session.ADOConn), sql_komp(services.session.ADOConn, componentStructure), cds_grp({&sql_grp}),
+    cds_komp({&sql_komp}), vir_tb({integerField(u"grp_id"_qs)}),
+    vir_tb2({integerField(u"com_id"_qs), integerField(u"type"_qs), integerField(u"no_urut"_qs)}),
+    vir_emp({integerField(u"emp_id_auto"_qs),
+             {.name = u"pin"_qs},
+             {.name = u"nik"_qs},
+             {.name = u"nama"_qs},
+             integerField(u"grp_id"_qs)}) {
+    m_ui->setupUi(this);
+    set_up();
+    connect_handlers();
+    m_services.language.ApplyLanguage(*this);
+}
+
+Tfrm_isian_hitung_gaji::~Tfrm_isian_hitung_gaji() = default;
+
+void Tfrm_isian_hitung_gaji::set_up() {
+    m_ui->dbg_grp->setColumns({{u"dbg_grppilih"_qs, u"pilih"_qs, u"Pilih"_qs, Show::Tick},
+                               {u"dbg_grpkode_grp"_qs, u"kode_grp"_qs, u"Kode group"_qs},
+                               {u"dbg_grpgrp_name"_qs, u"grp_name"_qs, u"Nama group gaji"_qs}});
+    m_ui->dbg_kom->setColumns({{u"dbg_kompilih"_qs, u"pilih"_qs, u"Pilih"_qs, Show::Tick},
+                               {u"dbg_komcom_kode"_qs, u"com_kode"_qs, u"Kode"_qs},
+                               {u"dbg_komcom_name"_qs, u"com_name"_qs, u"Nama komponen"_qs},
+                               {u"dbg_komno_urut"_qs, u"no_urut"_qs, u"No urut"_qs}});
+    m_ui->dbg_d->setColumns({{u"dbg_dpin"_qs, u"pin"_qs, u"PIN"_qs},
+                             {u"dbg_dnik"_qs, u"nik"_qs, u"NIK"_qs},
+                             {u"dbg_dnama"_qs, u"nama"_qs, u"Nama"_qs},
+                             {u"dbg_dtot_payroll"_qs, u"tot_payroll"_qs, u"Jumlah gaji"_qs, Show::Money}});
+    m_ui->dbg_sd->setColumns({{u"dbg_sdcom_kode"_qs, u"com_kode"_qs, u"Kode"_qs},
+                              {u"dbg_sdcom_name"_qs, u"com_name"_qs, u"Nama komponen"_qs},
+                              {u"dbg_sdjenis"_qs, u"jenis"_qs, u"+ / -"_qs},
+                              {u"dbg_sdsubtot_payroll"_qs, u"subtot_payroll"_qs, u"Nilai uang"_qs, Show::Money},
+                              {u"dbg_sdjml_faktor"_qs, u"jml_faktor"_qs, u"Faktor"_qs}});
+    m_ui->dbg_grp->setDataSet(&cds_grp);
+    m_ui->dbg_kom->setDataSet(&cds_komp);
+    m_ui->dbg_d->setDataSet(&m_copy.cds_d);
+    m_ui->dbg_sd->setDataSet(&m_copy.cds_sd);
+    m_ui->dbe_nama->bind(m_copy.cds_m, u"process_name"_qs);
+    m_ui->dbe_bulat->bind(m_copy.cds_m, u"round_value"_qs);
+    m_ui->dbe_bulat->acceptDigitsOnly();
+    m_ui->dbe_total->bind(m_copy.cds_m, u"tot_process"_qs);
+    m_ui->dbe_total->showMoney();
+    m_ui->dbtp_tgl_aw->bind(m_copy.cds_m, u"date1"_qs);
+    m_ui->dbtp_tgl_akh->bind(m_copy.cds_m, u"date2"_qs);
+    m_ui->dtp_bulan->setLocale(QLocale(QLocale::Indonesian));
+    m_ui->pnl_emp->hide();
+    m_ui->pnl_proses->hide();
+    chb_kreditClick();
+    vir_tb.open();
+    vir_tb2.open();
+    vir_emp.open();
+    m_copy.lineShown = [this] { segarkan_rincian(); };
+}
+
+void Tfrm_isian_hitung_gaji::connect_handlers() {
+    using Self = Tfrm_isian_hitung_gaji;
+    const std::pair<QAbstractButton*, void (Self::*)()> clicks[] = {
+        {m_ui->btn_select_all, &Self::btn_select_allClick},
+        {m_ui->btn_disselect_all, &Self::btn_disselect_allClick},
+        {m_ui->btn_invert, &Self::btn_invertClick},
+        {m_ui->btn_select_all2, &Self::btn_select_all2Click},
+        {m_ui->btn_disselect_all2, &Self::btn_disselect_all2Click},
+        {m_ui->btn_invert2, &Self::btn_invert2Click},
+        {m_ui->chb_emp, &Self::chb_empClick},
+        {m_ui->btn_emp, &Self::btn_empClick},
+        {m_ui->btn_sel_all, &Self::btn_sel_allClick},
+        {m_ui->btn_disel_all, &Self::btn_disel_allClick},
+        {m_ui->btn_balik, &Self::btn_balikClick},
+        {m_ui->chb_kredit, &Self::chb_kreditClick},
+        {m_ui->btn_proses, &Self::btn_prosesClick},
+        {m_ui->btn_hitung, &Self::btn_hitungClick},
+        {m_ui->btn_hapus, &Self::btn_hapusClick},
+        {m_ui->btn_hapus2, &Self::btn_hapus2Click},
+        {m_ui->btn_simpan, &Self::btn_simpanClick}};
+    for (const auto& [button, handler] : clicks)
+        onEvent(button, &QAbstractButton::clicked, this, handler);
+    onEvent(m_ui->cmb_kredit, &QComboBox::activated, this, &Self::cmb_kreditCloseUp);
+    onEvent(m_ui->clb_emp, &QListWidget::itemChanged, this, &Self::clb_empClickCheck);
+    connect(m_ui->btn_tutup, &QPushButton::clicked, this, &QDialog::close);
+    connect(m_ui->dbg_grp, &DataGrid::toggled, this,
+            [this](const QString&, const QString& text) { runHandler(this, [&] { dbg_grppilihToggleClick(text); }); });
+    connect(m_ui->dbg_kom, &DataGrid::toggled, this,
+            [this](const QString&, const QString& text) { runHandler(this, [&] { dbg_kompilihToggleClick(text); }); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { leave_pnl_emp(now); });
+}
+
+void Tfrm_isian_hitung_gaji::FormActivate() {
+    open_lists();
+    if (!std::exchange(baru_dibuka, false))
+        return;
+    open_run();
+}
+
+void Tfrm_isian_hitung_gaji::open_lists() {
+    sql_grp.setSql(groupStatement(m_services.session.session_cab_id));
+    cds_grp.reopen();
+    FitGridColumns(*m_ui->dbg_grp);
+    cds_komp.reopen();
+    FitGridColumns(*m_ui->dbg_kom);
+    ClearDataSet(vir_tb);
+}
+
+void Tfrm_isian_hitung_gaji::open_run() {
+    for (QDateEdit* picker : {static_cast<QDateEdit*>(m_ui->dbtp_tgl_aw), static_cast<QDateEdit*>(m_ui->dbtp_tgl_akh)})
+        picker->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+    // The caption of the language with the mode behind it.
+    setWindowTitle(windowTitle() + u' ' + m_modeCaptions[m_task.mode].text());
+    if (m_task.mode == RunFormTask::New) {
+        m_copy.open(0);
+        m_copy.appendAll();
+        siapkan_baru();
+        return;
+    }
+    m_copy.open(m_task.process_id);
+    if (m_task.mode == RunFormTask::Edit)
+        m_copy.editAll();
+    else
+        for (data::DataSet* set : std::initializer_list<data::DataSet*>{&m_copy.cds_m, &m_copy.cds_d, &m_copy.cds_sd})
+            set->setReadOnly(true);
+    siapkan_ubah();
+}
+
+void Tfrm_isian_hitung_gaji::siapkan_baru() {
+    const QDate today = m_services.session.clock().date();
+    m_copy.cds_m.editValue(u"date1", today.addDays(-defaultPeriodDays));
+    m_copy.cds_m.editValue(u"date2", today);
+    m_copy.cds_m.editValue(u"round_value", 0);
+    m_ui->chb_kredit->setChecked(false);
+    m_ui->cmb_kredit->setCurrentIndex(0);
+    m_ui->dtp_bulan->setDisplayFormat(QStringLiteral("MMMM yyyy"));
+    m_ui->dtp_bulan->setDate(today);
+    chb_kreditClick();
+    m_ui->dbe_nama->setFocus();
+}
+
+void Tfrm_isian_hitung_gaji::siapkan_ubah() {
+    m_ui->cmb_kredit->setCurrentIndex(0);
+    m_ui->dtp_bulan->setDisplayFormat(QStringLiteral("MMMM yyyy"));
+    m_ui->dtp_bulan->setDate(m_services.session.clock().date());
+    m_ui->dbe_nama->setFocus();
+    m_ui->lbl_total->setText(groupedInteger(m_copy.cds_m.real(u"tot_process")));
+    m_copy.cds_d.last();
+    m_copy.cds_d.first();
+    if (m_task.mode == RunFormTask::Edit)
+        m_copy.stamp();
+    FitGridColumns(*m_ui->dbg_d);
+    FitGridColumns(*m_ui->dbg_sd);
+}
+
+void Tfrm_isian_hitung_gaji::segarkan_rincian() {
+    if (!m_copy.cds_sd.isOpen())
+        return;
+    const run::WorkingCopy::Sums sums = m_copy.sums();
+    m_ui->lbl_tunjangan_isi->setText(groupedInteger(sums.tunjangan));
+    m_ui->lbl_potongan_isi->setText(groupedInteger(sums.potongan));
+    m_ui->lbl_nama_emp->setText(m_copy.cds_d.text(u"nama"));
+}
+
+run::Notice Tfrm_isian_hitung_gaji::compute(run::Run& run) {
+    BusyScreen busy(m_ui->pnl_proses, m_ui->pgb_proses);
+    m_copy.deleteAllLines();
+    run.nomor_rincian_terakhir = m_copy.nomor_rincian_terakhir();
+    run.nomor_baris_terakhir = m_copy.nomor_baris_terakhir();
+    frame::Session& session = m_services.session;
+    const auto show = [&busy](const run::Progress& progress) { busy.showProgress(progress.done, progress.of); };
+    const run::Notice notice = run::computeRun(run, selections(), session.ADOConn, session.ADOConn_lang, show);
+    m_copy.appendRun(run);
+    m_copy.hitung();
+    return notice;
+}
+
+void Tfrm_isian_hitung_gaji::btn_prosesClick() {
+    m_copy.cds_m.settle();
+    run::Run run;
+    const run::Notice notice = compute(run);
+    if (notice == run::Notice::NoEmployees)
+        m_services.messages.inform(this, tidak_ada_karyawan);
+    else if (notice == run::Notice::MoreThan200Employees)
+        m_services.messages.inform(this, lebih_200);
+    btn_hitungClick();
+}
+
+void Tfrm_isian_hitung_gaji::btn_hitungClick() {
+    m_copy.cds_m.settle();
+    m_copy.hitung();
+    m_ui->lbl_total->setText(groupedInteger(m_copy.cds_m.real(u"tot_process")));
+    FitGridColumns(*m_ui->dbg_d);
+    FitGridColumns(*m_ui->dbg_sd);
+}
+
+void Tfrm_isian_hitung_gaji::btn_hapusClick() {
+    if (m_copy.cds_d.isEmpty())
+        return;
+    m_copy.cds_d.remove();
+    btn_hitungClick();
+}
+
+void Tfrm_isian_hitung_gaji::btn_hapus2Click() {
+    if (m_copy.cds_sd.isEmpty())
+        return;
+    m_copy.cds_sd.remove();
+    btn_hitungClick();
+}
+
+bool Tfrm_isian_hitung_gaji::cek_nama_proses() {
+    if (!m_ui->dbe_nama->text().trimmed().isEmpty())
+        return true;
+    m_services.messages.error(this, nama_kosong);
+    m_ui->dbe_nama->setFocus();
+    return false;
+}
+
+void Tfrm_isian_hitung_gaji::btn_simpanClick() {
+    if (cek_nama_proses())
+        simpan();
+    m_task.refresh();
+}
+
+void Tfrm_isian_hitung_gaji::simpan() {
+    btn_hitungClick();
+    m_copy.applyAll();
+    if (m_task.mode == RunFormTask::View)
+        return;
+    save_log(m_task.mode == RunFormTask::New ? QStringLiteral("Insert") : QStringLiteral("Update"));
+    m_task.refresh();
+    if (m_task.mode == RunFormTask::New && m_task.goToLast)
+        m_task.goToLast();
+    close();
+}
+
+void Tfrm_isian_hitung_gaji::save_log(const QString& action) {
+    const QString date = QStringLiteral("yyyy-MM-dd");
+    const QString note =
+        QStringLiteral("%1 - %2 - [%3, %4 -- %5]")
+            .arg(windowTitle(), action, m_ui->dbe_nama->text(), m_copy.cds_m.date(u"date1").toString(date),
+                 m_copy.cds_m.date(u"date2").toString(date));
+    data::dropFault("the audit row of a saved run", [&] {
+        m_services.audit.WriteUserLog(m_services.session.login_id, note, frame::payrollModule,
+                                      m_services.session.clock());
+    });
+}

@@ -1,0 +1,252 @@
+// The run form's pick lists: groups, components, employees, loans.
+
+#include "run/form/fr_isian_hitung_gaji.h"
+
+#include "frame/base/tick_list.h"
+#include "run/statements.h"
+#include "toolkit/data/clear_data_set.h"
+#include "toolkit/data/drop_fault.h"
+#include "ui_fr_isian_hitung_gaji.h"
+
+#include <QResizeEvent>
+#include <QSignalBlocker>
+
+namespace {
+
+constexpr int pnlEmpTop = 296;
+
+} // namespace
+
+void Tfrm_isian_hitung_gaji::tick_groups(frame::TickWish wish) {
+    frame::setTicks(cds_grp, wish, [this](const QString& text) { dbg_grppilihToggleClick(text); });
+    FitGridColumns(*m_ui->dbg_kom);
+}
+
+void Tfrm_isian_hitung_gaji::btn_select_allClick() {
+    tick_groups(frame::TickWish::All);
+}
+
+void Tfrm_isian_hitung_gaji::btn_disselect_allClick() {
+    tick_groups(frame::TickWish::None);
+}
+
+void Tfrm_isian_hitung_gaji::btn_invertClick() {
+    tick_groups(frame::TickWish::Invert);
+}
+
+void Tfrm_isian_hitung_gaji::tick_components(frame::TickWish wish) {
+    frame::setTicks(cds_komp, wish, [this](const QString& text) { dbg_kompilihToggleClick(text); });
+}
+
+void Tfrm_isian_hitung_gaji::btn_select_all2Click() {
+    tick_components(frame::TickWish::All);
+}
+
+void Tfrm_isian_hitung_gaji::btn_disselect_all2Click() {
+    tick_components(frame::TickWish::None);
+}
+
+void Tfrm_isian_hitung_gaji::btn_invert2Click() {
+    tick_components(frame::TickWish::Invert);
+}
+
+void Tfrm_isian_hitung_gaji::dbg_grppilihToggleClick(const QString& text) {
+    const QVariant grp_id = cds_grp.value(u"grp_id");
+    const bool listed = vir_tb.locate({{u"grp_id", grp_id}});
+    if (text == QLatin1String("-1") && !listed) {
+        vir_tb.append();
+        vir_tb.setValue(u"grp_id", grp_id);
+        vir_tb.post();
+    } else if (text != QLatin1String("-1") && listed) {
+        vir_tb.remove();
+    }
+    const data::ViewsOff off(cds_komp);
+    for (cds_komp.last(); !cds_komp.isEmpty();)
+        cds_komp.remove();
+    for (vir_tb.first(); !vir_tb.isEof(); vir_tb.next())
+        data::dropFault("the components of a group", [this] { isi_komponen_grup(vir_tb.integer32(u"grp_id")); });
+    cds_komp.first();
+    FitGridColumns(*m_ui->dbg_kom);
+}
+
+void Tfrm_isian_hitung_gaji::isi_komponen_grup(int grp_id) {
+    data::SqlQuery& sql = m_services.session.sql_temp;
+    sql.openSql(QStringLiteral("select grp_com.*, com.com_kode, com.com_name, com.no_urut, "
+                               "if(com.type=0, 'Penerimaan', 'Potongan') as type from z_pay_grp_com as grp_com "
+                               "left join z_pay_grp as grp on grp_com.grp_id=grp.grp_id "
+                               "left join z_pay_com as com on grp_com.com_id=com.com_id where grp_com.grp_id=%1 "
+                               "order by com.type, com.no_urut ")
+                    .arg(grp_id));
+    for (; !sql.isEof(); sql.next()) {
+        if (cds_komp.rowOf({{u"com_id", sql.value(u"com_id")}}) >= 0)
+            continue;
+        cds_komp.append();
+        cds_komp.setValue(u"pilih", 0);
+        for (const QStringView field : {u"com_id", u"com_kode", u"com_name", u"no_urut"})
+            cds_komp.setValue(field, sql.value(field));
+        cds_komp.post();
+    }
+    ClearDataSet(vir_tb2);
+}
+
+void Tfrm_isian_hitung_gaji::dbg_kompilihToggleClick(const QString& text) {
+    const QVariant com_id = cds_komp.value(u"com_id");
+    const bool listed = vir_tb2.locate({{u"com_id", com_id}});
+    if (text != QLatin1String("-1")) {
+        if (listed)
+            vir_tb2.remove();
+        return;
+    }
+    if (listed)
+        return;
+    vir_tb2.append();
+    vir_tb2.setValue(u"com_id", com_id);
+    // The list does not carry the type, so the working order is the number alone.
+    vir_tb2.setValue(u"type", 0);
+    vir_tb2.setValue(u"no_urut", cds_komp.value(u"no_urut"));
+    vir_tb2.post();
+}
+
+void Tfrm_isian_hitung_gaji::chb_empClick() {
+    m_ui->btn_emp->setEnabled(m_ui->chb_emp->isChecked());
+    isi_daftar_karyawan();
+    if (m_ui->chb_emp->isChecked())
+        pnl_empPop();
+    else
+        m_ui->pnl_emp->hide();
+}
+
+void Tfrm_isian_hitung_gaji::btn_empClick() {
+    pnl_empPop();
+}
+
+void Tfrm_isian_hitung_gaji::pnl_empPop() {
+    resizeEvent(nullptr);
+    m_ui->pnl_emp->show();
+    m_ui->pnl_emp->raise();
+    m_ui->clb_emp->setFocus();
+}
+
+void Tfrm_isian_hitung_gaji::leave_pnl_emp(QWidget* focus) {
+    if (focus && focus != m_ui->pnl_emp && !m_ui->pnl_emp->isAncestorOf(focus))
+        m_ui->pnl_emp->hide();
+}
+
+void Tfrm_isian_hitung_gaji::resizeEvent(QResizeEvent* event) {
+    if (event)
+        Screen::resizeEvent(event);
+    const int left = m_ui->dbg_d->geometry().left();
+    const int top = std::min(pnlEmpTop, height() / 3);
+    m_ui->pnl_emp->setGeometry(left, top, std::max(width() / 3, m_ui->pnl_emp->sizeHint().width()),
+                               height() - top - 12);
+    m_ui->pnl_proses->adjustSize();
+    m_ui->pnl_proses->move(rect().center() - m_ui->pnl_proses->rect().center());
+}
+
+void Tfrm_isian_hitung_gaji::isi_daftar_karyawan() {
+    const QSignalBlocker quiet(m_ui->clb_emp);
+    m_ui->clb_emp->clear();
+    clb_emp_id.clear();
+    ClearDataSet(vir_emp);
+    data::SqlQuery& sql = m_services.session.sql_cek;
+    for (vir_tb.first(); !vir_tb.isEof(); vir_tb.next()) {
+        const int grp_id = vir_tb.integer32(u"grp_id");
+        for (sql.openSql(run::membersStatement(grp_id, QStringLiteral("0"))); !sql.isEof(); sql.next()) {
+            auto* item = new QListWidgetItem(QStringLiteral("[%1] %2").arg(sql.text(u"pin"), sql.text(u"nama")));
+            item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
+            item->setCheckState(Qt::Unchecked);
+            m_ui->clb_emp->addItem(item);
+            clb_emp_id.push_back(sql.integer32(u"emp_id_auto"));
+            if (vir_emp.rowOf({{u"emp_id_auto", sql.value(u"emp_id_auto")}}) >= 0)
+                continue;
+            vir_emp.append();
+            for (const QStringView field : {u"emp_id_auto", u"pin", u"nik", u"nama"})
+                vir_emp.setValue(field, sql.value(field));
+            vir_emp.setValue(u"grp_id", grp_id);
+            vir_emp.post();
+        }
+    }
+    m_ui->lbl_jml->setText(QStringLiteral("0"));
+}
+
+void Tfrm_isian_hitung_gaji::clb_empClickCheck() {
+    int count = 0;
+    for (int i = 0; i < m_ui->clb_emp->count(); ++i)
+        count += m_ui->clb_emp->item(i)->checkState() == Qt::Checked ? 1 : 0;
+    m_ui->lbl_jml->setText(QString::number(count));
+}
+
+void Tfrm_isian_hitung_gaji::check_employees(frame::TickWish wish) {
+    {
+        const QSignalBlocker quiet(m_ui->clb_emp);
+        for (int i = 0; i < m_ui->clb_emp->count(); ++i) {
+            QListWidgetItem* item = m_ui->clb_emp->item(i);
+            const bool ticked =
+                wish == frame::TickWish::All || (wish == frame::TickWish::Invert && item->checkState() != Qt::Checked);
+            item->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
+        }
+    }
+    m_ui->clb_emp->viewport()->update();
+    clb_empClickCheck();
+}
+
+void Tfrm_isian_hitung_gaji::btn_sel_allClick() {
+    check_employees(frame::TickWish::All);
+}
+
+void Tfrm_isian_hitung_gaji::btn_disel_allClick() {
+    check_employees(frame::TickWish::None);
+}
+
+void Tfrm_isian_hitung_gaji::btn_balikClick() {
+    check_employees(frame::TickWish::Invert);
+}
+
+void Tfrm_isian_hitung_gaji::chb_kreditClick() {
+    const bool loans = m_ui->chb_kredit->isChecked();
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{m_ui->lbl_berdasar, m_ui->cmb_kredit, m_ui->lbl_bulan, m_ui->dtp_bulan})
+        control->setVisible(loans);
+    if (loans)
+        cmb_kreditCloseUp();
+}
+
+void Tfrm_isian_hitung_gaji::cmb_kreditCloseUp() {
+    const bool month = m_ui->cmb_kredit->currentIndex() != 0;
+    m_ui->lbl_bulan->setVisible(month);
+    m_ui->dtp_bulan->setVisible(month);
+}
+
+run::EmployeeChoice Tfrm_isian_hitung_gaji::chosen_employees() const {
+    run::EmployeeChoice choice;
+    for (std::size_t i = 0; i < clb_emp_id.size(); ++i)
+        choice.clb_emp_id.push_back({clb_emp_id[i], m_ui->clb_emp->item(int(i))->checkState() == Qt::Checked});
+    const auto text = [this](int row, QStringView field) {
+        return data::textOf(vir_emp.valueAt(row, vir_emp.fieldIndex(field)));
+    };
+    for (int row = 0; row < vir_emp.rowCount(); ++row)
+        choice.vir_emp.push_back(
+            {{text(row, u"emp_id_auto").toInt(), text(row, u"pin"), text(row, u"nik"), text(row, u"nama")},
+             text(row, u"grp_id").toInt()});
+    return choice;
+}
+
+run::Selections Tfrm_isian_hitung_gaji::selections() const {
+    run::Selections chosen;
+    chosen.period = {m_ui->dbtp_tgl_aw->date(), m_ui->dbtp_tgl_akh->date()};
+    const auto number = [](const data::DataSet& set, int row, QStringView field) {
+        return data::integer32Of(set.valueAt(row, set.fieldIndex(field)));
+    };
+    for (int row = 0; row < vir_tb.rowCount(); ++row)
+        chosen.groups.push_back(number(vir_tb, row, u"grp_id"));
+    for (int row = 0; row < vir_tb2.rowCount(); ++row)
+        chosen.components.push_back(
+            {number(vir_tb2, row, u"com_id"), number(vir_tb2, row, u"type"), number(vir_tb2, row, u"no_urut")});
+    if (m_ui->chb_emp->isChecked())
+        chosen.employees = chosen_employees();
+    if (m_ui->chb_kredit->isChecked())
+        chosen.loans = m_ui->cmb_kredit->currentIndex() == 0 ? run::LoanTest::Period : run::LoanTest::Month;
+    chosen.loanMonth = m_ui->dtp_bulan->date();
+    chosen.session_cab_id = m_services.session.session_cab_id;
+    return chosen;
+}

@@ -1,0 +1,213 @@
+#include "run/form/working_copy.h"
+
+#include "run/form/form_run_view.h"
+#include "toolkit/data/drop_fault.h"
+
+#include <cmath>
+#include <utility>
+
+namespace run {
+
+namespace {
+
+const QString selectHeader = QStringLiteral("SELECT * , 0 as pilih FROM z_pay_process_m where process_id=:process_id");
+
+const QString selectLines = QStringLiteral(
+    R"(select d.*, e.pin, e.nik , concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama
+       from z_pay_process_d as d left join emp as e on d.emp_id_auto=e.emp_id_auto
+       where d.process_id=:process_id order by d.no_urut)");
+
+const QString selectRows = QStringLiteral(
+    R"(select sd.*, c.com_kode, c.com_name, c.type, e.pin, e.nik , if(type=0, '(+)', '(-)') as jenis
+       , concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama
+       from z_pay_process_sd as sd left join z_pay_com as c on sd.com_id=c.com_id
+       left join emp as e on sd.emp_id_auto=e.emp_id_auto
+       where sd.process_id=:process_id order by sd.no_urut, c.type, c.no_urut)");
+
+} // namespace
+
+/// While one lives, the cursor runs over lines that nobody looks at: the screen is told nothing.
+class WorkingCopy::Walk final {
+public:
+    explicit Walk(WorkingCopy& copy) : m_copy(copy), m_lines(copy.cds_d), m_rows(copy.cds_sd) { ++m_copy.m_walks; }
+    ~Walk() { --m_copy.m_walks; }
+    Walk(const Walk&) = delete;
+    Walk& operator=(const Walk&) = delete;
+
+private:
+    WorkingCopy& m_copy;
+    data::ViewsOff m_lines;
+    data::ViewsOff m_rows;
+};
+
+WorkingCopy::WorkingCopy(db::Connection& main, Author author) :
+    sql_m(main, selectHeader), sql_d(main, selectLines), sql_sd(main, selectRows),
+    cds_m({&sql_m, QStringLiteral("z_pay_process_m"), {QStringLiteral("process_id")}, {QStringLiteral("pilih")}}),
+    cds_d({&sql_d,
+           QStringLiteral("z_pay_process_d"),
+           {QStringLiteral("process_id"), QStringLiteral("no_urut")},
+           {QStringLiteral("pin"), QStringLiteral("nik"), QStringLiteral("nama")}}),
+    cds_sd({&sql_sd,
+            QStringLiteral("z_pay_process_sd"),
+            {QStringLiteral("process_id"), QStringLiteral("no_urut"), QStringLiteral("no_urut_ref")},
+            {QStringLiteral("com_kode"), QStringLiteral("com_name"), QStringLiteral("type"), QStringLiteral("pin"),
+             QStringLiteral("nik"), QStringLiteral("jenis"), QStringLiteral("nama")}}),
+    m_main(main), m_author(std::move(author)) {
+    connectEvents();
+}
+
+void WorkingCopy::connectEvents() {
+    cds_m.events.newRecord = [this] { cds_mNewRecord(); };
+    cds_d.events.newRecord = [this] { cds_dNewRecord(); };
+    cds_sd.events.newRecord = [this] { cds_sdNewRecord(); };
+    // For the rows in their stored order the last one need not have the highest number.
+    cds_d.events.afterOpen = [this] {
+        m_nomor_rincian_terakhir = lastValue(cds_d, u"no_urut");
+        segarkan_rincian();
+    };
+    cds_sd.events.afterOpen = [this] { m_nomor_baris_terakhir = lastValue(cds_sd, u"no_urut_ref"); };
+    cds_d.events.beforeCancel = [this] { m_nomor_rincian_terakhir -= cds_d.state() == data::State::Insert ? 1 : 0; };
+    cds_sd.events.beforeCancel = [this] { m_nomor_baris_terakhir -= cds_sd.state() == data::State::Insert ? 1 : 0; };
+    cds_d.events.beforeDelete = [this] { cds_dBeforeDelete(); };
+    cds_sd.events.beforeDelete = [this] { cds_sdBeforeDelete(); };
+    cds_d.events.afterPost = [this] { segarkan_rincian(); };
+    cds_d.events.afterScroll = [this] { segarkan_rincian(); };
+    cds_d.events.afterCancel = [this] { segarkan_rincian(); };
+}
+
+int WorkingCopy::lastValue(const data::DataSet& set, QStringView field) {
+    return set.isEmpty() ? 0 : data::integer32Of(set.valueAt(set.rowCount() - 1, set.fieldIndex(field)));
+}
+
+void WorkingCopy::cds_mNewRecord() {
+    data::SqlQuery sql(m_main, QStringLiteral("select max(process_id) as process_id from z_pay_process_m "));
+    sql.open();
+    cds_m.setValue(u"process_id", sql.integer(u"process_id") + 1);
+    stamp();
+}
+
+void WorkingCopy::stamp() {
+    cds_m.editValue(u"lastupdate_user", m_author.login_id);
+    cds_m.editValue(u"lastupdate_date", m_author.now());
+}
+
+void WorkingCopy::cds_dNewRecord() {
+    cds_d.setValue(u"no_urut", ++m_nomor_rincian_terakhir);
+    cds_d.setValue(u"process_id", cds_m.value(u"process_id"));
+}
+
+void WorkingCopy::cds_sdNewRecord() {
+    cds_sd.setValue(u"no_urut_ref", ++m_nomor_baris_terakhir);
+    cds_sd.setValue(u"process_id", cds_m.value(u"process_id"));
+    cds_sd.setValue(u"no_urut", cds_d.value(u"no_urut"));
+    cds_sd.setValue(u"emp_id_auto", cds_d.value(u"emp_id_auto"));
+}
+
+void WorkingCopy::cds_dBeforeDelete() {
+    for (cds_sd.last(); !cds_sd.isEmpty();)
+        cds_sd.remove();
+    if (cds_d.integer(u"no_urut") == m_nomor_rincian_terakhir)
+        --m_nomor_rincian_terakhir;
+}
+
+void WorkingCopy::cds_sdBeforeDelete() {
+    if (cds_sd.integer(u"no_urut_ref") == m_nomor_baris_terakhir)
+        --m_nomor_baris_terakhir;
+}
+
+void WorkingCopy::filterRows() {
+    const bool isLine = !cds_d.isNull(u"emp_id_auto");
+    cds_sd.setFilter(QStringLiteral("no_urut"), isLine ? cds_d.value(u"no_urut") : QVariant(0));
+}
+
+void WorkingCopy::segarkan_rincian() {
+    filterRows();
+    if (m_walks == 0 && lineShown)
+        lineShown();
+}
+
+void WorkingCopy::open(int process_id) {
+    for (data::SqlQuery* sql : {&sql_m, &sql_d, &sql_sd})
+        sql->setParameter(QStringLiteral("process_id"), process_id);
+    const Walk walk(*this);
+    cds_sd.clearFilter();
+    cds_m.reopen();
+    // The rows first: the first line that opens then finds its own.
+    cds_sd.reopen();
+    cds_d.reopen();
+}
+
+void WorkingCopy::appendAll() {
+    cds_m.append();
+    cds_d.append();
+    cds_sd.append();
+}
+
+void WorkingCopy::editAll() {
+    for (data::ClientDataSet* set : {&cds_m, &cds_d, &cds_sd})
+        if (!set->isEmpty())
+            set->edit();
+}
+
+void WorkingCopy::deleteAllLines() {
+    const Walk walk(*this);
+    for (cds_d.last(); !cds_d.isEmpty();)
+        cds_d.remove();
+}
+
+void WorkingCopy::appendRun(const Run& run) {
+    const Walk walk(*this);
+    for (const Line& line : run.lines) {
+        cds_d.append();
+        cds_d.setValue(u"emp_id_auto", line.emp_id_auto);
+        cds_d.setValue(u"pin", line.pin);
+        cds_d.setValue(u"nik", line.nik);
+        cds_d.setValue(u"nama", line.nama);
+        cds_d.setValue(u"tot_payroll", line.tot_payroll);
+        cds_d.post();
+        for (const Row& row : line.rows) {
+            cds_sd.append();
+            cds_sd.setValue(u"com_id", row.com_id);
+            cds_sd.setValue(u"com_kode", row.com_kode);
+            cds_sd.setValue(u"com_name", row.com_name);
+            cds_sd.setValue(u"subtot_payroll", row.subtot_payroll);
+            cds_sd.setValue(u"type", row.type);
+            cds_sd.setValue(u"jenis", row.jenis());
+            cds_sd.setValue(u"jml_faktor", row.jml_faktor);
+            cds_sd.setValue(u"kondisi", row.kondisi);
+            cds_sd.post();
+        }
+    }
+}
+
+void WorkingCopy::hitung() {
+    {
+        const Walk walk(*this);
+        cds_sd.settle();
+        cds_d.settle();
+        FormRunView view(*this);
+        cds_m.editValue(u"tot_process", run::hitung(view, cds_m.real(u"round_value")));
+        cds_m.post();
+        hitung2(view);
+    }
+    segarkan_rincian();
+}
+
+WorkingCopy::Sums WorkingCopy::sums() const {
+    Sums sums;
+    const int type = cds_sd.fieldIndex(u"type");
+    const int amount = cds_sd.fieldIndex(u"subtot_payroll");
+    for (int row = 0; row < cds_sd.rowCount(); ++row) {
+        const double rupiah = std::nearbyint(data::realOf(cds_sd.valueAt(row, amount)));
+        (data::integerOf(cds_sd.valueAt(row, type)) == 0 ? sums.tunjangan : sums.potongan) += rupiah;
+    }
+    return sums;
+}
+
+void WorkingCopy::applyAll() {
+    data::dropFault("saving the header of a run", [this] { cds_m.applyUpdates(); });
+    data::dropFault("saving the lines of a run", [this] { cds_d.applyUpdates(); });
+    data::dropFault("saving the rows of a run", [this] { cds_sd.applyUpdates(); });
+}
+
+} // namespace run

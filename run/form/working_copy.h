@@ -1,0 +1,79 @@
+#pragma once
+
+#include "run/run.h"
+#include "toolkit/data/client_data_set.h"
+
+#include <functional>
+
+namespace run {
+
+/// Where the working copies take what is not in the rows: who works on the run, and the clock.
+struct Author {
+    QString login_id;
+    std::function<QDateTime()> now;
+};
+
+/// A run on the run form: the working copies of its header, lines and rows, tied together as the form needs them. The
+/// rows always show the current line only; deleting a line deletes its rows; new lines and rows number themselves.
+class WorkingCopy final {
+public:
+    WorkingCopy(db::Connection& main, Author author);
+
+    data::SqlQuery sql_m;
+    data::SqlQuery sql_d;
+    data::SqlQuery sql_sd;
+    data::ClientDataSet cds_m;
+    data::ClientDataSet cds_d;
+    data::ClientDataSet cds_sd;
+
+    /// Called when another line has become current or its rows have changed, except during walks over all lines.
+    std::function<void()> lineShown;
+
+    /// Loads the run, or no run for an id that no run has.
+    void open(int process_id);
+    /// Begins a new run: a header, and a line and a row that stay behind only if somebody fills them in.
+    void appendAll();
+    void editAll();
+    /// Puts who and when into the header.
+    void stamp();
+
+    void deleteAllLines();
+    /// Adds the lines and rows of a computation behind what is there.
+    void appendRun(const Run& run);
+    [[nodiscard]] int nomor_rincian_terakhir() const { return m_nomor_rincian_terakhir; }
+    [[nodiscard]] int nomor_baris_terakhir() const { return m_nomor_baris_terakhir; }
+
+    /// Rounds, totals and cleans all lines, and puts the total into the header.
+    void hitung();
+
+    /// Earnings and deductions of the current line, each row rounded to whole rupiah.
+    struct Sums {
+        double tunjangan = 0;
+        double potongan = 0;
+    };
+    [[nodiscard]] Sums sums() const;
+
+    /// Writes all changes, each copy in a batch of its own; a batch that fails does not keep the next from its turn.
+    void applyAll();
+
+private:
+    class Walk;
+
+    void connectEvents();
+    [[nodiscard]] static int lastValue(const data::DataSet& set, QStringView field);
+    void cds_mNewRecord();
+    void cds_dNewRecord();
+    void cds_sdNewRecord();
+    void cds_dBeforeDelete();
+    void cds_sdBeforeDelete();
+    void segarkan_rincian();
+    void filterRows();
+
+    db::Connection& m_main;
+    const Author m_author;
+    int m_nomor_rincian_terakhir = 0; ///< last no_urut given in cds_d
+    int m_nomor_baris_terakhir = 0;   ///< last no_urut_ref given in cds_sd
+    int m_walks = 0;
+};
+
+} // namespace run
