@@ -12,7 +12,7 @@ namespace company {
 struct Options {
     int employees = 60;
     int months = 3;
-    QDate lastMonth; ///< any day of the last month with attendance
+    QDate lastMonth = QDate::currentDate().addMonths(-1); ///< any day of the last month with attendance
     quint64 seed = 1;
     QString language = QStringLiteral("indonesia"); ///< a language column of the texts
 };
@@ -22,6 +22,7 @@ struct Period {
     QDate first;
     QDate last;
 };
+/// Throws std::invalid_argument where the last month is no date.
 [[nodiscard]] Period periodOf(const Options& options);
 
 struct Employee {

@@ -43,7 +43,7 @@ int positive(const QCommandLineParser& parser, const QString& option, int highes
 
 QDate lastMonth(const QCommandLineParser& parser) {
     if (!parser.isSet(u"until"_s))
-        return QDate::currentDate().addMonths(-1);
+        return company::Options().lastMonth;
     const QDate month = QDate::fromString(parser.value(u"until"_s), u"yyyy-MM"_s);
     if (!month.isValid())
         throw std::runtime_error("--until takes a month such as 2026-03");
