@@ -84,6 +84,14 @@ TEST(Assembly, TakesComponentsByNumberNotByTypeAndSkipsThoseWithoutARule) {
     EXPECT_EQ(linesOf(company), "1:0007 (2: 3 x 1 (-) [* 3]; 3: 3 x 3 (+) []; 1: 10 x 1 (+) [* 10])");
 }
 
+TEST(Assembly, AComponentChosenTwiceAddsOverThePeriodButNotPerDay) {
+    SmallCompany company = smallCompany({QStringLiteral("com=1 uang=10"), QStringLiteral("com=2 hitung=1 uang=10")},
+                                        QStringLiteral("f13=0,0"));
+    company.selections.components.push_back({.com_id = 1, .no_urut = 3});
+    company.selections.components.push_back({.com_id = 2, .no_urut = 4});
+    EXPECT_EQ(linesOf(company), "1:0007 (1: 20 x 2 (+) [* 10]; 2: 20 x 2 (+) [* 10])");
+}
+
 TEST(Assembly, ForgetsTheValuesOfOneEmployeeBeforeTheNext) {
     SmallCompany company = twoGroups();
     company.selections.groups = {1};
