@@ -2,6 +2,7 @@
 
 #include "frame/base/log.h"
 #include "frame/window/fr_menu.h"
+#include "register/fr_hitung_gaji.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -57,6 +58,9 @@ bool Program::openFrame() {
     m_frame->session().ADOConn_lang.close();
     for (int panel = 0; panel < Tfrm_menu::panelCount; ++panel)
         m_frame->setPanelText(panel, argument(firstPanelArgument + panel));
+    m_frame->setWorkspace(Tfrm_menu::ProsesPenggajian, [](frame::Services& services, QWidget* parent) -> Workspace* {
+        return new Tfrm_hitung_gaji(services, parent);
+    });
     QObject::connect(&m_instance, &platform::InstanceGuard::raiseRequested, m_frame.get(), &Tfrm_menu::comeForward);
     m_instance.listen();
     m_frame->showMaximized();

@@ -20,7 +20,7 @@ struct RunFormTask {
 
     Mode mode = New;
     int process_id = 0;                  ///< the run to edit or view
-    std::function<void()> refresh;       ///< shows the register's list anew
+    std::function<void()> refresh = {};  ///< shows the register's list anew
     std::function<void()> goToLast = {}; ///< makes its last run current
 };
 

@@ -5,6 +5,7 @@
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
+#include <QSet>
 
 DataGrid::DataGrid(QWidget* parent) : QTableView(parent), m_model(new GridModel(this)) {
     setHorizontalHeader(new BandHeader(this));
@@ -94,12 +95,20 @@ void DataGrid::toggle(int column) {
     dataSet()->post();
 }
 
+void DataGrid::mousePressEvent(QMouseEvent* event) {
+    m_rowBeforePress = currentIndex().row();
+    QTableView::mousePressEvent(event);
+}
+
 void DataGrid::mouseReleaseEvent(QMouseEvent* event) {
     QTableView::mouseReleaseEvent(event);
     const QModelIndex index = indexAt(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && index.isValid() && index == currentIndex() &&
-        columns()[std::size_t(index.column())]->show() == Show::Tick)
+    if (event->button() != Qt::LeftButton || !index.isValid() || index != currentIndex())
+        return;
+    if (columns()[std::size_t(index.column())]->show() == Show::Tick)
         toggle(index.column());
+    if (index.row() == m_rowBeforePress)
+        Q_EMIT rowChangedByUser();
 }
 
 void DataGrid::keyPressEvent(QKeyEvent* event) {
@@ -109,6 +118,25 @@ void DataGrid::keyPressEvent(QKeyEvent* event) {
         QTableView::keyPressEvent(event);
 }
 
+namespace {
+
+/// Widths of the texts of one column. Measuring a text costs far more than looking it up, and most columns repeat a few
+/// texts many times.
+int widestText(const GridModel& rows, int column, const QFontMetrics& metrics) {
+    int widest = 0;
+    QSet<QString> measured;
+    for (int row = 0; row < rows.rowCount(); ++row) {
+        const QString text = rows.textAt(row, column).trimmed();
+        const qsizetype known = measured.size();
+        measured.insert(text);
+        if (measured.size() > known)
+            widest = std::max(widest, metrics.horizontalAdvance(text));
+    }
+    return widest;
+}
+
+} // namespace
+
 void FitGridColumns(DataGrid& grid) {
     constexpr int leastWidth = 10;
     constexpr int captionRoom = 27;
@@ -116,11 +144,12 @@ void FitGridColumns(DataGrid& grid) {
     const QFontMetrics metrics = grid.fontMetrics();
     const GridModel& rows = grid.rows();
     for (int column = 0; column < rows.columnCount(); ++column) {
+        if (grid.isColumnHidden(column))
+            continue;
         const QString caption = grid.columns()[std::size_t(column)]->caption().trimmed();
-        int width = std::max(leastWidth, metrics.horizontalAdvance(caption) + captionRoom);
-        for (int row = 0; row < rows.rowCount(); ++row)
-            width = std::max(width, metrics.horizontalAdvance(rows.textAt(row, column).trimmed()) + textRoom);
-        grid.setColumnWidth(column, width);
+        const int captionWidth = metrics.horizontalAdvance(caption) + captionRoom;
+        const int textWidth = widestText(rows, column, metrics) + textRoom;
+        grid.setColumnWidth(column, std::max({leastWidth, captionWidth, textWidth}));
     }
     grid.setEnabled(rows.rowCount() > 0);
 }

@@ -25,13 +25,14 @@ public:
     [[nodiscard]] int columnOf(QStringView field) const;
 
 Q_SIGNALS:
-    /// The user moved to another row.
+    /// The user moved to another row, or clicked the current one again.
     void rowChangedByUser();
     /// The user set or cleared the mark of a tick column in the current row; text is "-1" or "0". The record does not
     /// hold it yet.
     void toggled(const QString& field, const QString& text);
 
 protected:
+    void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;
@@ -44,6 +45,7 @@ private:
     GridModel* m_model;
     std::vector<GridBand*> m_bands;
     bool m_following = false;
+    int m_rowBeforePress = -1;
 };
 
 /// Widens each column to the widest of its caption and its display texts; disables a grid without records.

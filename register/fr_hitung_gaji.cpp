@@ -1,0 +1,268 @@
+#include "register/fr_hitung_gaji.h"
+
+#include "frame/base/tick_list.h"
+#include "toolkit/data/drop_fault.h"
+#include "toolkit/text/number_text.h"
+#include "toolkit/ui/caption.h"
+#include "toolkit/ui/data_grid.h"
+#include "toolkit/ui/handler.h"
+#include "ui_fr_hitung_gaji.h"
+
+#include <QMenu>
+
+#include <cmath>
+
+namespace {
+
+constexpr int shownDays = 30;
+
+const QString formName = QStringLiteral("frm_hitung_gaji");
+const frame::MessageText lebih_dari_satu{formName, 1, u"Data yang dipilih lebih dari satu."_qs};
+const frame::MessageText yakin_hapus{formName, 2,
+                                     u"Apakah anda yakin akan menghapus proses perhitungan gaji yang dipilih?"_qs};
+
+const QString selectRuns = QStringLiteral("SELECT *   , 0 as pilih FROM z_pay_process_m");
+
+const QString selectEmployees = QStringLiteral(
+    R"(SELECT * FROM (select d.*, e.pin, e.nik, grp.no_rek
+   , concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama
+   , c.cab_name, d2.dept_name, d2.level_id, f.func_name
+   , SUBSTRING_INDEX(e.pin, '', 1) as col_str
+   , SUBSTRING_INDEX(e.pin, ' ', -1) + 0 as col_num
+   from z_pay_process_d as d left join emp as e on d.emp_id_auto=e.emp_id_auto
+   left join cabang as c on e.cab_id_auto=c.cab_id_auto
+   left join dept as d2 on e.dept_id_auto=d2.dept_id_auto
+   left join func as f on e.func_id_auto=f.func_id_auto
+   left join z_pay_grp_emp as grp on d.emp_id_auto=grp.emp_id_auto
+   where d.process_id=:process_id ) as proses_d order by col_str, col_num)");
+
+QString selectDetails(int type) {
+    return QStringLiteral(R"(select sd.*, c.com_kode, c.com_name, e.pin, e.nik
+   , concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama
+   from z_pay_process_sd as sd left join z_pay_com as c on sd.com_id=c.com_id
+   left join emp as e on sd.emp_id_auto=e.emp_id_auto
+   where c.type=%1 and sd.process_id=:process_id and sd.emp_id_auto=:emp_id_auto order by c.no_urut)")
+        .arg(type);
+}
+
+std::vector<ColumnPlan> detailColumns(const QString& grid) {
+    return {{grid + u"com_kode"_qs, u"com_kode"_qs, u"Kode"_qs},
+            {grid + u"com_name"_qs, u"com_name"_qs, u"Nama komponen"_qs},
+            {grid + u"subtot_payroll"_qs, u"subtot_payroll"_qs, u"Nilai uang"_qs, Show::Money},
+            {grid + u"jml_faktor"_qs, u"jml_faktor"_qs, u"Faktor"_qs, Show::Money}};
+}
+
+/// Each row rounded to whole rupiah; what cannot be read ends the sum.
+double sumOf(const data::DataSet& rows) {
+    double sum = 0;
+    data::dropFault("the sum of a list", [&] {
+        const int field = rows.fieldIndex(u"subtot_payroll");
+        for (int row = 0; row < rows.rowCount(); ++row)
+            sum += std::nearbyint(data::realOf(rows.valueAt(row, field)));
+    });
+    return sum;
+}
+
+QString isoDate(const QDate& date) {
+    return date.toString(Qt::ISODate);
+}
+
+} // namespace
+
+Tfrm_hitung_gaji::Tfrm_hitung_gaji(frame::Services& services, QWidget* parent) :
+    Workspace(services, parent), m_ui(std::make_unique<Ui::frm_hitung_gaji>()),
+    sql_m(services.session.ADOConn, selectRuns), sql_d(services.session.ADOConn, selectEmployees),
+    sql_sd(services.session.ADOConn, selectDetails(0)), sql_sd2(services.session.ADOConn, selectDetails(1)),
+    cds_m({&sql_m}), m_baseSql(selectRuns), pmn_cetak(new QMenu(this)) {
+    m_ui->setupUi(this);
+    set_up();
+    add_print_menu();
+    connect_handlers();
+    m_services.language.ApplyLanguage(*this);
+}
+
+Tfrm_hitung_gaji::~Tfrm_hitung_gaji() = default;
+
+void Tfrm_hitung_gaji::set_up() {
+    m_ui->dbg_m->setColumns({{u"dbg_mpilih"_qs, u"pilih"_qs, u"Pilih"_qs, Show::Tick},
+                             {u"dbg_mprocess_name"_qs, u"process_name"_qs, u"Nama penggajian"_qs},
+                             {u"dbg_mdate1"_qs, u"date1"_qs, u"Tgl. awal"_qs, Show::Date},
+                             {u"dbg_mdate2"_qs, u"date2"_qs, u"Tgl. akhir"_qs, Show::Date},
+                             {u"dbg_mround_value"_qs, u"round_value"_qs, u"Pecahan terkecil"_qs, Show::Money},
+                             {u"dbg_mtot_process"_qs, u"tot_process"_qs, u" Total penggajian"_qs, Show::Money},
+                             {u"dbg_mlastupdate_date"_qs, u"lastupdate_date"_qs, u"Log tanggal"_qs, Show::Moment},
+                             {u"dbg_mlastupdate_user"_qs, u"lastupdate_user"_qs, u"Log user"_qs},
+                             {u"dbg_mpayment_date"_qs, u"payment_date"_qs, u"Tgl. bayar"_qs, Show::Date, true},
+                             {u"dbg_mcreate_by"_qs, u"create_by"_qs, u"Dibuat"_qs, Show::Plain, true},
+                             {u"dbg_mcheck_by"_qs, u"check_by"_qs, u"Diperiksa"_qs, Show::Plain, true},
+                             {u"dbg_mapprove_by"_qs, u"approve_by"_qs, u"Disetujui"_qs, Show::Plain, true},
+                             {u"dbg_mprocess_id"_qs, u"process_id"_qs, u"process_id"_qs, Show::Plain, true}});
+    m_ui->dbg_d->setColumns({{u"dbg_dpin"_qs, u"pin"_qs, u"PIN"_qs},
+                             {u"dbg_dnik"_qs, u"nik"_qs, u"NIK"_qs},
+                             {u"dbg_dnama"_qs, u"nama"_qs, u"Nama karyawan"_qs},
+                             {u"dbg_dtot_payroll"_qs, u"tot_payroll"_qs, u"Jumlah gaji"_qs, Show::Money}});
+    m_ui->dbg_sd->setColumns(detailColumns(u"dbg_sd"_qs));
+    m_ui->dbg_sd2->setColumns(detailColumns(u"dbg_sd2"_qs));
+    m_ui->dbg_m->setDataSet(&cds_m);
+    m_ui->dbg_d->setDataSet(&sql_d);
+    m_ui->dbg_sd->setDataSet(&sql_sd);
+    m_ui->dbg_sd2->setDataSet(&sql_sd2);
+    sql_d.follow(cds_m, {u"process_id"_qs});
+    for (data::SqlQuery* details : {&sql_sd, &sql_sd2})
+        details->follow(sql_d, {u"process_id"_qs, u"emp_id_auto"_qs});
+    for (QDateEdit* picker : {m_ui->dtp_tgl_aw, m_ui->dtp_tgl_akh})
+        picker->setDisplayFormat(QStringLiteral("dd-MM-yyyy"));
+}
+
+void Tfrm_hitung_gaji::connect_handlers() {
+    using Self = Tfrm_hitung_gaji;
+    const std::pair<QPushButton*, void (Self::*)()> clicks[] = {
+        {m_ui->btn_cari, &Self::btn_cariClick},
+        {m_ui->btn_tambah, &Self::btn_tambahClick},
+        {m_ui->btn_edit, &Self::btn_editClick},
+        {m_ui->btn_hapus, &Self::btn_hapusClick},
+        {m_ui->btn_cetak, &Self::btn_cetakClick},
+        {m_ui->btn_select_all, &Self::btn_select_allClick},
+        {m_ui->btn_disselect_all, &Self::btn_disselect_allClick},
+        {m_ui->btn_invert, &Self::btn_invertClick}};
+    for (const auto& [button, handler] : clicks)
+        onEvent(button, &QPushButton::clicked, this, handler);
+    onEvent(m_ui->dbg_m, &DataGrid::rowChangedByUser, this, &Self::dbg_mClick);
+    onEvent(m_ui->dbg_d, &DataGrid::rowChangedByUser, this, &Self::dbg_dClick);
+}
+
+void Tfrm_hitung_gaji::FormActivate() {
+    const QDate today = m_services.session.clock().date();
+    m_ui->dtp_tgl_akh->setDate(today);
+    m_ui->dtp_tgl_aw->setDate(today.addDays(-shownDays));
+    btn_cariClick();
+    m_ui->dbg_m->setFocus();
+}
+
+void Tfrm_hitung_gaji::FormClose() {
+    for (data::DataSet* list : std::initializer_list<data::DataSet*>{&sql_sd, &sql_sd2, &sql_d, &cds_m})
+        list->close();
+}
+
+QString Tfrm_hitung_gaji::kondisi() const {
+    QString text = QStringLiteral("\nwhere DATE(date1)>=DATE('%1') \nand DATE(date2)<DATE('%2') ")
+                       .arg(isoDate(m_ui->dtp_tgl_aw->date()), isoDate(m_ui->dtp_tgl_akh->date().addDays(1)));
+    if (const QString& branch = m_services.session.session_cab_id; branch != QLatin1String("0"))
+        text += QStringLiteral("\nand process_id in (select distinct process_id from z_pay_process_d where emp_id_auto "
+                               "in (select distinct emp_id_auto from emp where cab_id_auto=%1)) ")
+                    .arg(branch);
+    return text;
+}
+
+void Tfrm_hitung_gaji::btn_cariClick() {
+    sql_m.setSql(m_baseSql + kondisi());
+    open_list();
+    open_employees();
+    open_details();
+    show_sums(QStringLiteral("] ~ "));
+}
+
+void Tfrm_hitung_gaji::open_list() {
+    cds_m.reopen();
+    FitGridColumns(*m_ui->dbg_m);
+}
+
+void Tfrm_hitung_gaji::open_employees() {
+    sql_d.reopen();
+    FitGridColumns(*m_ui->dbg_d);
+}
+
+void Tfrm_hitung_gaji::open_details() {
+    sql_sd.reopen();
+    sql_sd2.reopen();
+    FitGridColumns(*m_ui->dbg_sd);
+    FitGridColumns(*m_ui->dbg_sd2);
+}
+
+void Tfrm_hitung_gaji::show_sums(const QString& between) {
+    const QString name = QStringLiteral("[ ") + sql_d.text(u"nama") + between;
+    m_ui->lbl_tunjangan_isi->setText(name + groupedInteger(sumOf(sql_sd)));
+    m_ui->lbl_potongan_isi->setText(name + groupedInteger(sumOf(sql_sd2)));
+}
+
+void Tfrm_hitung_gaji::dbg_mClick() {
+    open_employees();
+    m_ui->lbl_emp_isi->setText(QStringLiteral("[ ") + cds_m.text(u"process_name") + QStringLiteral(" ]"));
+    open_details();
+    show_sums(QStringLiteral(" ] ~ "));
+}
+
+void Tfrm_hitung_gaji::dbg_dClick() {
+    open_details();
+    show_sums(QStringLiteral("] ~ "));
+}
+
+void Tfrm_hitung_gaji::btn_select_allClick() {
+    data::dropFault("ticking all runs", [this] { frame::setTicks(cds_m, frame::TickWish::All); });
+}
+
+void Tfrm_hitung_gaji::btn_disselect_allClick() {
+    data::dropFault("clearing all ticks", [this] { frame::setTicks(cds_m, frame::TickWish::None); });
+}
+
+void Tfrm_hitung_gaji::btn_invertClick() {
+    data::dropFault("inverting the ticks", [this] { frame::setTicks(cds_m, frame::TickWish::Invert); });
+}
+
+void Tfrm_hitung_gaji::open_form(RunFormTask task) {
+    task.refresh = [this] { btn_cariClick(); };
+    task.goToLast = [this] { cds_m.last(); };
+    Tfrm_isian_hitung_gaji(m_services, std::move(task), window()).exec();
+}
+
+void Tfrm_hitung_gaji::btn_tambahClick() {
+    open_form({.mode = RunFormTask::New});
+}
+
+void Tfrm_hitung_gaji::btn_editClick() {
+    const frame::Ticked ticked = frame::tickedRows(cds_m);
+    if (ticked.count > 1)
+        m_services.messages.inform(this, lebih_dari_satu);
+    if (ticked.count != 1)
+        return;
+    cds_m.goToRow(ticked.lastRow);
+    open_form({.mode = RunFormTask::Edit, .process_id = cds_m.integer32(u"process_id")});
+}
+
+void Tfrm_hitung_gaji::btn_hapusClick() {
+    if (cds_m.isEmpty() || !m_services.messages.confirm(this, yakin_hapus))
+        return;
+    frame::forEachTicked(cds_m, [this] { delete_current_run(); });
+    open_list();
+}
+
+void Tfrm_hitung_gaji::delete_current_run() {
+    const QString note = QStringLiteral("%1 - %2 [%3, %4 -- %5]")
+                             .arg(windowTitle(), captionText(m_ui->btn_hapus->text()), cds_m.text(u"process_name"),
+                                  isoDate(cds_m.date(u"date1")), isoDate(cds_m.date(u"date2")));
+    m_services.audit.WriteUserLog(m_services.session.login_id, note, frame::payrollModule, m_services.session.clock());
+    for (const char16_t* table : {u"z_pay_process_sd", u"z_pay_process_d", u"z_pay_process_m"})
+        data::dropFault("deleting a run", [&] {
+            m_services.session.ADOCom_update.execute(QStringLiteral("Delete From %1 Where process_id=%2 ")
+                                                         .arg(QString::fromUtf16(table), cds_m.text(u"process_id")));
+        });
+}
+
+void Tfrm_hitung_gaji::add_print_menu() {
+    pmn_cetak->setObjectName(QStringLiteral("pmn_cetak"));
+    const auto add = [this](const QString& name, const QString& text) {
+        QAction* entry = pmn_cetak->addAction(text);
+        entry->setObjectName(name);
+        return entry;
+    };
+    add(u"RekapPenggajian1"_qs, u"Rekap penggajian"_qs);
+    add(u"Rinciangaji1"_qs, u"Rincian penggajian"_qs);
+    add(u"SlipGaji1"_qs, u"Slip penggajian"_qs);
+    add(u"ExporttoExcel1"_qs, u"Export to Excel (Rincian)"_qs)->setEnabled(false);
+    pmn_cetak->addSeparator();
+    add(u"ExporttoExcel2"_qs, u"Export to Excel (Rincian) 2"_qs)->setEnabled(false);
+}
+
+void Tfrm_hitung_gaji::btn_cetakClick() {
+    pmn_cetak->popup(m_ui->btn_cetak->mapToGlobal(QPoint(0, m_ui->btn_cetak->height())));
+}
