@@ -76,6 +76,12 @@ bool GridModel::isNumber(int column) const {
     return type == data::FieldType::Integer || type == data::FieldType::Real;
 }
 
+/// Black on light, white on dark.
+static QColor readableOn(const QColor& background) {
+    constexpr int middleGray = 128;
+    return qGray(background.rgb()) < middleGray ? Qt::white : Qt::black;
+}
+
 QVariant GridModel::data(const QModelIndex& index, int role) const {
     const GridColumn& column = *m_columns[std::size_t(index.column())];
     const QVariant& value = valueAt(index.row(), index.column());
@@ -90,8 +96,9 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
             return value.toInt() == -1 ? Qt::Checked : Qt::Unchecked;
         break;
     case Qt::BackgroundRole:
+    case Qt::ForegroundRole:
         if (const QColor colour = m_cellColour ? m_cellColour({column, value}) : QColor(); colour.isValid())
-            return colour;
+            return role == Qt::BackgroundRole ? colour : readableOn(colour);
         break;
     default:
         break;
