@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace run {
@@ -125,8 +126,7 @@ void FigureReader::readTogether(const std::vector<Part*>& parts, Grain grain) {
 
 std::vector<FigureValues> FigureReader::readColumns(const std::vector<Part*>& parts, Grain grain) {
     std::vector<BulkColumn> wanted;
-    for (const Part* part : parts)
-        wanted.push_back(part->column);
+    std::ranges::transform(parts, std::back_inserter(wanted), [](const Part* part) { return part->column; });
     const auto grouping = grain == Grain::Day ? Grouping::ByEmployeeAndDay : Grouping::ByEmployee;
     const QString employees = u"select emp_id_auto from emp where emp_id_auto in "_s + numberList(m_places.keys());
     db::Result rows = m_main.query(db::bindParameters(

@@ -87,10 +87,10 @@ QString valueColumn(const Figure& figure) {
     if (isFreeHours(figure))
         return u"if(fr.shift_ot=-1, %1, %2)"_s.arg(switchedColumn(days, amount, u"sm2"_s, overtimeSwitch.sum_as),
                                                    switchedColumn(days, amount, u"sm"_s, attendanceSwitch.sum_as));
-    const QString daysOrZero = u"ifnull(%1, 0)"_s.arg(days);
+    const auto orZero = [](const QString& value) { return u"ifnull(%1, 0)"_s.arg(value); };
     if (figure.countSwitch.sum_id == 0)
-        return daysOrZero;
-    return switchedColumn(daysOrZero, u"ifnull(%1, 0)"_s.arg(amount), u"sm"_s, figure.countSwitch.sum_as);
+        return orZero(days);
+    return switchedColumn(orZero(days), orZero(amount), u"sm"_s, figure.countSwitch.sum_as);
 }
 
 QString settingsJoins(const Figure& figure) {

@@ -5,9 +5,9 @@
 #include <QHash>
 #include <QSet>
 
-#include <compare>
 #include <exception>
 #include <map>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -53,7 +53,9 @@ struct FigureRead {
     Grain grain = Grain::Period;
     Form form = Form::AsSet;
 
-    friend auto operator<=>(const FigureRead&, const FigureRead&) = default;
+    friend bool operator<(const FigureRead& a, const FigureRead& b) {
+        return std::tie(a.id_kode_report, a.grain, a.form) < std::tie(b.id_kode_report, b.grain, b.form);
+    }
 };
 
 /// Values by employee, in the order of MemoryLookups::employees, and within an employee by day.
