@@ -17,8 +17,8 @@ namespace {
 constexpr Place kode{.x = 4, .width = 20};
 constexpr Place komponen{.x = 26, .width = 64};
 constexpr Place keterangan{.x = 93, .width = 70};
-constexpr Place faktor{.x = 93, .width = 14};
-constexpr Place kondisi{.x = 108.5, .width = 54.5};
+constexpr Place faktor{.x = 93, .width = 11};
+constexpr Place kondisi{.x = 106, .width = 57};
 constexpr Place uang{.x = 166, .width = listWidth - 166};
 
 constexpr report::Look bold{.bold = true};
@@ -38,7 +38,7 @@ Band whoLine(const report::Captions& captions, const data::DataSet& sql_detail) 
 }
 
 Band whereLine(const report::Captions& captions, const data::DataSet& sql_detail) {
-    Band band{.name = u"group"_s};
+    Band band{.name = u"group"_s, .height = 5.5};
     addValue(band, left, captions[u"ppl_nik"_s], field({}, sql_detail, u"nik"_s));
     addValue(band, middle, captions[u"ppl_departemen"_s], field({}, sql_detail, u"level_id"_s));
     addValue(band, right, captions[u"ppl_gaji_diterima"_s], amount({}, sql_detail, u"jml_gaji"_s, boldNumber));

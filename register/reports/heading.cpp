@@ -12,7 +12,7 @@ namespace payroll {
 namespace {
 
 constexpr double colonWidth = 3;
-constexpr double dateWidth = 17; // ten characters of the text size, with a little room
+constexpr double dateWidth = 14.4; // ten characters of the text size, with a little room
 constexpr Look oneLine{.fit = Fit::Line};
 
 } // namespace
@@ -36,7 +36,7 @@ void addValue(Band& band, const Column& column, const QString& caption, Item val
 void addPeriod(Band& band, const Column& column, const Wording& wording) {
     addCaption(band, column, wording.captions[u"ppl_periode"_s]);
     const double x = valuePlace(column).x;
-    constexpr double betweenWidth = 7;
+    constexpr double betweenWidth = 5.4;
     const auto put = [&](double at, double width, const QString& text) {
         band.items.push_back(label({.x = x + at, .width = width}, text, oneLine));
     };

@@ -28,6 +28,7 @@ public:
 
 private:
     [[nodiscard]] Heading readHeading(const Request& request);
+    void allowLargeTemporaryTables();
     void openAll(const Request& request);
 
     frame::Session& m_session;

@@ -23,10 +23,10 @@ constexpr double rightX = innerWidth - halfWidth;
 constexpr double middleX = innerWidth / 2;
 
 // A line of either list, counted from the left edge of its half.
-constexpr Place kode{.x = 0, .width = 12.5};
-constexpr Place komponen{.x = 13.5, .width = 27};
-constexpr Place faktor{.x = 40.5, .width = 11.5};
-constexpr Place kondisi{.x = 53, .width = 19.5};
+constexpr Place kode{.x = 0, .width = 10.5};
+constexpr Place komponen{.x = 11.5, .width = 32};
+constexpr Place faktor{.x = 43.5, .width = 11};
+constexpr Place kondisi{.x = 55.7, .width = 17.3};
 constexpr Place sama{.x = 73, .width = 3};
 constexpr Place uang{.x = 75.8, .width = 20};
 constexpr Place jumlah{.x = 0, .width = 70};
@@ -125,6 +125,7 @@ public:
 private:
     // Two of these lines are the room for a signature.
     static constexpr double lineHeight = 5.5;
+    static constexpr double signerWidth = 45;
 
     static Band line() {
         return {
@@ -156,9 +157,8 @@ void Foot::addPrintTime(Band& band) const {
 }
 
 void Foot::addSigners(Band& band, report::Item giver, report::Item taker) {
-    constexpr double width = 46;
-    giver.place = {.x = rightX, .width = width};
-    taker.place = {.x = innerWidth - width, .width = width};
+    giver.place = {.x = rightX, .width = signerWidth};
+    taker.place = {.x = innerWidth - signerWidth, .width = signerWidth};
     giver.look = taker.look = centred;
     band.items.push_back(std::move(giver));
     band.items.push_back(std::move(taker));
@@ -176,6 +176,8 @@ std::vector<report::Part> Foot::bands() const {
     addStub(lines[3], u"ppl_departemen"_s, u"dept_name"_s);
     addStub(lines[4], u"ppl_nik"_s, u"nik"_s);
     addStub(lines[5], u"ppl_nama_karyawan_slip"_s, u"nama"_s);
+    for (const double x : {rightX, innerWidth - signerWidth})
+        lines[5].rules.push_back({.edge = Rule::Edge::Top, .x = x, .width = signerWidth});
     addSigners(lines[5], label({}, m_wording.heading.ppl_user), field({}, m_sources.sql_detail, u"nama"_s));
     addStub(lines[6], u"ppl_jabatan"_s, u"func_name"_s);
     addPrintTime(lines[6]);

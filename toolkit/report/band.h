@@ -29,8 +29,8 @@ struct Place {
 
 /// One text of a band. The text is asked for each time the band is printed, with the data sets on their records.
 struct Item {
-    Place place;
-    std::function<QString()> text;
+    Place place{};
+    std::function<QString()> text{};
     Look look{};
     Hook onPrint{};
 };

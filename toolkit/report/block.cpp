@@ -95,7 +95,7 @@ double BlockPrinter::item(const Item& item, const QString& band, QPointF at) {
     printing.text.replace(u'\n', u' ');
     const QString text =
         look.fit == Fit::Wrap ? m_type.wrapped(printing.text, look, place.width) : std::move(printing.text);
-    const double height = lineMm + double(text.count(u'\n')) * m_type.spacing(look);
+    const double height = double(text.count(u'\n') + 1) * lineMm;
     m_block.marks.push_back({.band = band,
                              .box = {at.x() + place.x, at.y() + place.y, place.width, height},
                              .text = text,

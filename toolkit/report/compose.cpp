@@ -21,7 +21,7 @@ public:
     /// body: the part of the paper between header and footer.
     Pages(const Section& section, QRectF body) : m_section(section), m_body(body) {}
 
-    void add(const Block& block, const Printing& frame);
+    void add(Block block, const Printing& frame);
     [[nodiscard]] std::vector<FilledPage> take() { return std::move(m_pages); }
 
 private:
@@ -30,13 +30,14 @@ private:
     [[nodiscard]] double room() const { return m_body.height() - m_used - 2 * padding(); }
     [[nodiscard]] bool mustStartPage(const Block& block) const;
     void startPage();
-    void addPiece(const Block& block, double from, double to, const Printing& frame);
+    /// Takes the marks from the block.
+    void addPiece(Block& block, double from, double to, const Printing& frame);
 
     const Section& m_section;
     QRectF m_body;
     double m_used = 0;
     int m_records = 0;
-    std::vector<FilledPage> m_pages{1};
+    std::vector<FilledPage> m_pages{FilledPage{}};
 };
 
 void Pages::startPage() {
@@ -48,7 +49,7 @@ bool Pages::mustStartPage(const Block& block) const {
     return m_used > 0 && (m_section.start == Section::Start::NewPage || block.height > room() + tinyMm);
 }
 
-void Pages::add(const Block& block, const Printing& frame) {
+void Pages::add(Block block, const Printing& frame) {
     if (mustStartPage(block))
         startPage();
     m_pages.back().records = ++m_records;
@@ -62,7 +63,7 @@ void Pages::add(const Block& block, const Printing& frame) {
     m_used += m_section.gap;
 }
 
-void Pages::addPiece(const Block& block, double from, double to, const Printing& frame) {
+void Pages::addPiece(Block& block, double from, double to, const Printing& frame) {
     std::vector<Mark>& marks = m_pages.back().page.marks;
     const double top = m_body.top() + m_used;
     const double height = to - from + 2 * padding();
@@ -71,9 +72,9 @@ void Pages::addPiece(const Block& block, double from, double to, const Printing&
                          .band = m_section.frame->name,
                          .box = {m_body.left(), top, m_body.width(), height},
                          .fill = frame.fill});
-    for (const Mark& mark : block.marks)
+    for (Mark& mark : block.marks)
         if (mark.box.top() >= from - tinyMm && mark.box.top() < to - tinyMm) {
-            marks.push_back(mark);
+            marks.push_back(std::move(mark));
             marks.back().box.translate(m_body.left() + padding(), top + padding() - from);
         }
     m_used += height;

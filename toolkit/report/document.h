@@ -22,22 +22,22 @@ struct Mark {
     enum class Kind { Text, Rule, Frame };
 
     Kind kind = Kind::Text;
-    QString band;   ///< the band that printed it
-    QRectF box;     ///< millimetres from the paper's upper left corner; a rule is a box without width or height
+    QString band{}; ///< the band that printed it
+    QRectF box{};   ///< millimetres from the paper's upper left corner; a rule is a box without width or height
     QString text{}; ///< lines parted by '\n'
     Look look{};
     QColor fill{}; ///< none where invalid
 };
 
 struct Page {
-    std::vector<Mark> marks; ///< in the order of drawing: what lies below comes first
+    std::vector<Mark> marks{}; ///< in the order of drawing: what lies below comes first
 };
 
 /// A finished report: nothing in it depends on the data it came from any more.
 struct Document {
-    QString title;
-    Paper paper;
-    std::vector<Page> pages;
+    QString title{};
+    Paper paper{};
+    std::vector<Page> pages{};
 };
 
 /// The page as text, one line for each text and frame, in reading order: `band x y "text"`, millimetres with one

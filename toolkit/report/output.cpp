@@ -55,7 +55,7 @@ void PagePainter::drawText(QPainter& painter, const Mark& mark) {
             x += mark.look.align == Align::Right ? room : room / 2;
         }
         painter.drawText(QPointF(x, y) * dotsPerMm, line);
-        y += m_type.spacing(mark.look);
+        y += lineMm;
     }
 }
 

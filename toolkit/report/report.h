@@ -32,14 +32,14 @@ using Part = std::variant<Band, List, SideBySide>;
 
 /// A box around all that is printed for one record, as high as that is.
 struct Frame {
-    QString name;
+    QString name{};
     double padding = 0; ///< millimetres on every side
     Hook onPrint{};     ///< runs before those of the items inside
 };
 
 /// What is printed for each record of the master: kept together on a page, on several only where one does not do.
 struct Section {
-    std::vector<Part> parts;
+    std::vector<Part> parts{};
     std::optional<Frame> frame{};
     double gap = 0; ///< millimetres to the next one
     enum class Start { Anywhere, NewPage } start = Start::Anywhere;
@@ -55,7 +55,7 @@ using PageBands = std::function<std::vector<Band>(const PageInfo&)>;
 
 /// The design of a report over the records of its master. Header and footer have the same height on every page.
 struct Report {
-    QString title;
+    QString title{};
     Paper paper{};
     data::DataSet* master = nullptr;
     PageBands header{};

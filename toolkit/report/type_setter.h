@@ -26,11 +26,11 @@ public:
 
     /// Millimetres.
     [[nodiscard]] double width(const QString& text, const Look& look);
-    /// From the top of a line to its base line, and from line to line within a wrapped text; millimetres.
+    /// From the top of a line to its base line; millimetres. From line to line it is lineMm, also in a wrapped text, so
+    /// that texts beside each other stay on common lines.
     [[nodiscard]] double baseline(const Look& look) {
         return lineMm / 2 + (face(look).ascent - face(look).descent) / 2;
     }
-    [[nodiscard]] double spacing(const Look& look) { return face(look).ascent + face(look).descent; }
 
     /// The text broken into lines that are no wider than the width (mm), parted by '\n'. A word that is wider breaks
     /// anywhere.
