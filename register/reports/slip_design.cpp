@@ -16,19 +16,19 @@ namespace payroll {
 
 namespace {
 
-constexpr double padding = 2.5;
+constexpr double padding = 2;
 constexpr double innerWidth = listWidth - 2 * padding;
-constexpr double halfWidth = 95.8;
+constexpr double halfWidth = 96.3;
 constexpr double rightX = innerWidth - halfWidth;
 constexpr double middleX = innerWidth / 2;
 
 // A line of either list, counted from the left edge of its half.
-constexpr Place kode{.x = 0, .width = 10.5};
-constexpr Place komponen{.x = 11.5, .width = 32};
-constexpr Place faktor{.x = 43.5, .width = 11};
-constexpr Place kondisi{.x = 55.7, .width = 17.3};
-constexpr Place sama{.x = 73, .width = 3};
-constexpr Place uang{.x = 75.8, .width = 20};
+constexpr Place kode{.x = 0, .width = 10};
+constexpr Place komponen{.x = 11, .width = 31};
+constexpr Place faktor{.x = 42, .width = 11};
+constexpr Place kondisi{.x = 54.6, .width = 17.6};
+constexpr Place sama{.x = 73.6, .width = 2.6};
+constexpr Place uang{.x = 76.2, .width = halfWidth - 76.2};
 constexpr Place jumlah{.x = 0, .width = 70};
 
 constexpr report::Look bold{.bold = true};
@@ -69,7 +69,7 @@ std::vector<report::Part> head(const Sources& sources, const Wording& wording, c
     Band second{.name = u"head"_s};
     addPeriod(second, leftColumn, wording);
     addValue(second, rightColumn, captions[u"ppl_nama_karyawan_slip"_s], employee(u"nama"_s, bold));
-    Band third{.name = u"head"_s, .height = 6.5};
+    Band third{.name = u"head"_s, .height = 6};
     addValue(third, leftColumn, captions[u"ppl_departemen"_s], employee(u"dept_name"_s));
     addValue(third, rightColumn, captions[u"ppl_jabatan"_s], employee(u"func_name"_s));
     return {first, second, third};
@@ -92,7 +92,7 @@ report::List componentList(data::DataSet& lines, const ListWords& words, const r
     return {.rows = &lines,
             .link = u"emp_id_auto"_s,
             .head = {.name = words.band,
-                     .height = 5.5,
+                     .height = 5.1,
                      .items = {label({.x = 0, .width = halfWidth}, words.head, bold)},
                      .rules = {{.edge = Rule::Edge::Bottom, .x = 0, .width = halfWidth}}},
             .line = {.name = words.band,
@@ -124,7 +124,7 @@ public:
 
 private:
     // Two of these lines are the room for a signature.
-    static constexpr double lineHeight = 5.5;
+    static constexpr double lineHeight = 5.1;
     static constexpr double signerWidth = 45;
 
     static Band line() {

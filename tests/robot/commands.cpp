@@ -2,6 +2,7 @@
 #include "tests/robot/grid_commands.h"
 #include "tests/robot/keyboard.h"
 #include "tests/robot/pointer.h"
+#include "tests/robot/report_commands.h"
 #include "tests/robot/shown.h"
 
 #include <QApplication>
@@ -154,9 +155,11 @@ const Actions& actions() {
 } // namespace
 
 void carryOut(Robot& robot, const QStringList& words) {
-    const Actions& table = gridActions().contains(words.first()) ? gridActions() : actions();
-    const auto action = table.constFind(words.first());
-    if (action == table.constEnd())
+    const Action* action = nullptr;
+    for (const Actions* table : {&actions(), &gridActions(), &reportActions()})
+        if (const auto found = table->constFind(words.first()); found != table->constEnd())
+            action = &*found;
+    if (!action)
         throw CommandError(QStringLiteral("unknown command %1").arg(words.first()));
     const Words rest = words.mid(1);
     if (rest.size() < action->least || rest.size() > action->most)
