@@ -3,9 +3,10 @@
 //     robot_case ROBOT CASE.robot [--update]
 //
 // The script is the robot's own language. Comments that begin with "#:" speak to this driver, at their place:
-//     #: company EMPLOYEES MONTHS   first line only: databases with a generated company, else empty ones
+//     #: company EMPLOYEES MONTHS   databases with a generated company, else empty ones
 //     #: options --user hrd ...     options of the robot
 //     #: main SQL  #: app SQL       runs statements on one of the databases; "#:+" goes on with the line before
+//     #: main-file F  #: app-file F the same from a file beside the script
 //     #: rows SQL  #: rows-app SQL  puts the rows into the output, tab-separated
 // The output, with what the robot said on standard error and its exit status if it is not 0, must equal CASE.expected;
 // --update writes that file instead.
@@ -58,13 +59,15 @@ std::vector<Step> stepsOf(const QString& script) {
 /// The robot at work, and the transcript of all that is worth comparing.
 class Case final {
 public:
-    Case(QString robot, std::vector<Step> steps) : m_robotPath(std::move(robot)), m_steps(std::move(steps)) {
+    Case(QString robot, const QString& script) :
+        m_robotPath(std::move(robot)), m_folderOfScript(QFileInfo(script).absolutePath() + u'/'),
+        m_steps(stepsOf(QString::fromUtf8(readFile(script)))) {
         m_robot.setProcessChannelMode(QProcess::SeparateChannels);
     }
 
     [[nodiscard]] QByteArray transcript() {
         openDatabase();
-        readOptions();
+        m_options = QProcess::splitCommand(directive(QStringLiteral("options")));
         for (const Step& step : m_steps)
             step.isDirective ? obey(step.text) : tell(step.text);
         finish();
@@ -75,11 +78,11 @@ private:
     void openDatabase() {
         company::Options options;
         options.lastMonth = QDate(2026, 10, 1);
-        const QStringList words = m_steps.front().text.split(u' ');
-        const bool generated = m_steps.front().isDirective && words.front() == QLatin1String("company");
+        const QStringList words = directive(QStringLiteral("company")).split(u' ');
+        const bool generated = words.size() == 2;
         if (generated) {
-            options.employees = words.value(1).toInt();
-            options.months = words.value(2).toInt();
+            options.employees = words[0].toInt();
+            options.months = words[1].toInt();
         }
         m_database = generated ? std::make_unique<TestDatabase>(options) : std::make_unique<TestDatabase>();
         const db::ConnectionSettings& server = m_database->mainSettings();
@@ -91,18 +94,24 @@ private:
                                      .port = server.port});
     }
 
-    void readOptions() {
+    /// What stands behind the word of a directive that holds for the whole case; empty where it is not there.
+    [[nodiscard]] QString directive(const QString& word) const {
         for (const Step& step : m_steps)
-            if (step.isDirective && step.text.startsWith(QLatin1String("options ")))
-                m_options = QProcess::splitCommand(step.text.mid(8));
+            if (step.isDirective && step.text.startsWith(word + u' '))
+                return step.text.mid(word.size() + 1).trimmed();
+        return {};
     }
 
-    void obey(const QString& directive) {
-        const QString verb = directive.section(u' ', 0, 0);
-        const QString rest = directive.mid(verb.size()).trimmed();
+    void obey(const QString& text) {
+        const QString verb = text.section(u' ', 0, 0);
+        const QString rest = text.mid(verb.size()).trimmed();
         if (verb == QLatin1String("options") || verb == QLatin1String("company"))
             return;
         waitForRobot();
+        if (verb.endsWith(QLatin1String("-file"))) {
+            obey(verb.chopped(5) + u' ' + QString::fromUtf8(readFile(m_folderOfScript + rest)));
+            return;
+        }
         if (verb == QLatin1String("main"))
             m_database->run(rest);
         else if (verb == QLatin1String("app"))
@@ -160,6 +169,7 @@ private:
     }
 
     const QString m_robotPath;
+    const QString m_folderOfScript;
     const std::vector<Step> m_steps;
     const QTemporaryDir m_folder;
     std::unique_ptr<TestDatabase> m_database;
@@ -187,7 +197,7 @@ int runCase(const QStringList& arguments) {
     if (arguments.size() < 3)
         throw std::runtime_error("usage: robot_case ROBOT CASE.robot [--update]");
     const QString script = arguments[2];
-    Case robotCase(QFileInfo(arguments[1]).absoluteFilePath(), stepsOf(QString::fromUtf8(readFile(script))));
+    Case robotCase(QFileInfo(arguments[1]).absoluteFilePath(), script);
     const QByteArray transcript = robotCase.transcript();
     const QString expected = script.left(script.size() - 5) + QStringLiteral("expected");
     if (!arguments.contains(QStringLiteral("--update")))

@@ -86,7 +86,8 @@ QString stateOf(const QWidget* control) {
     const auto word = [](bool holds, const char16_t* name) {
         return (holds ? QString() : QStringLiteral("not-")) + QString::fromUtf16(name);
     };
-    const QWidget* focus = QApplication::focusWidget();
+    // The window's own focus: without a window manager no window may be active after a dialog has closed.
+    const QWidget* focus = control->window()->focusWidget();
     const bool focused = focus && (focus == control || control->isAncestorOf(focus));
     return QStringList{word(control->isVisible(), u"visible"), word(control->isEnabled(), u"enabled"),
                        word(isReadOnly(control), u"readonly"), word(focused, u"focused")}
