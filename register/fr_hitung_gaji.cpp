@@ -247,22 +247,3 @@ void Tfrm_hitung_gaji::delete_current_run() {
                                                          .arg(QString::fromUtf16(table), cds_m.text(u"process_id")));
         });
 }
-
-void Tfrm_hitung_gaji::add_print_menu() {
-    pmn_cetak->setObjectName(QStringLiteral("pmn_cetak"));
-    const auto add = [this](const QString& name, const QString& text) {
-        QAction* entry = pmn_cetak->addAction(text);
-        entry->setObjectName(name);
-        return entry;
-    };
-    add(u"RekapPenggajian1"_qs, u"Rekap penggajian"_qs);
-    add(u"Rinciangaji1"_qs, u"Rincian penggajian"_qs);
-    add(u"SlipGaji1"_qs, u"Slip penggajian"_qs);
-    add(u"ExporttoExcel1"_qs, u"Export to Excel (Rincian)"_qs)->setEnabled(false);
-    pmn_cetak->addSeparator();
-    add(u"ExporttoExcel2"_qs, u"Export to Excel (Rincian) 2"_qs)->setEnabled(false);
-}
-
-void Tfrm_hitung_gaji::btn_cetakClick() {
-    pmn_cetak->popup(m_ui->btn_cetak->mapToGlobal(QPoint(0, m_ui->btn_cetak->height())));
-}

@@ -1,10 +1,13 @@
 #pragma once
 
 #include "frame/base/workspace.h"
+#include "register/reports/payroll_reports.h"
 #include "run/form/fr_isian_hitung_gaji.h"
 #include "toolkit/data/client_data_set.h"
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 class QMenu;
 
@@ -37,6 +40,13 @@ private:
     void dbg_mClick();
     void dbg_dClick();
 
+    void RekapPenggajian1Click();
+    void Rinciangaji1Click();
+    void SlipGaji1Click();
+
+    using MakeReport =
+        std::function<std::optional<report::Document>(payroll::PayrollReports&, const payroll::Request&)>;
+
     void set_up();
     void connect_handlers();
     void add_print_menu();
@@ -46,6 +56,9 @@ private:
     void open_details();
     void show_sums(const QString& between);
     void delete_current_run();
+    /// The runs to print; none, with a message, where none is ticked.
+    [[nodiscard]] std::optional<payroll::Request> ticked_runs();
+    void print(const MakeReport& make);
     void open_form(RunFormTask task);
 
     std::unique_ptr<Ui::frm_hitung_gaji> m_ui;

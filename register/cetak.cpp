@@ -1,0 +1,76 @@
+// The register's menu of papers.
+
+#include "register/fr_hitung_gaji.h"
+
+#include "frame/base/tick_list.h"
+#include "register/reports/captions.h"
+#include "register/reports/statements.h"
+#include "toolkit/data/drop_fault.h"
+#include "toolkit/report/fr_preview.h"
+#include "toolkit/ui/handler.h"
+#include "toolkit/ui/wait_cursor.h"
+#include "ui_fr_hitung_gaji.h"
+
+#include <QMenu>
+
+namespace {
+
+const frame::MessageText pilih_data{u"frm_hitung_gaji"_qs, 3, u"Pilih data yang akan dicetak."_qs};
+
+} // namespace
+
+void Tfrm_hitung_gaji::add_print_menu() {
+    using Self = Tfrm_hitung_gaji;
+    pmn_cetak->setObjectName(QStringLiteral("pmn_cetak"));
+    const auto add = [this](const QString& name, const QString& text, void (Self::*handler)()) {
+        QAction* entry = pmn_cetak->addAction(text);
+        entry->setObjectName(name);
+        entry->setEnabled(handler != nullptr);
+        if (handler)
+            onEvent(entry, &QAction::triggered, this, handler);
+    };
+    add(u"RekapPenggajian1"_qs, u"Rekap penggajian"_qs, &Self::RekapPenggajian1Click);
+    add(u"Rinciangaji1"_qs, u"Rincian penggajian"_qs, &Self::Rinciangaji1Click);
+    add(u"SlipGaji1"_qs, u"Slip penggajian"_qs, &Self::SlipGaji1Click);
+    add(u"ExporttoExcel1"_qs, u"Export to Excel (Rincian)"_qs, nullptr);
+    pmn_cetak->addSeparator();
+    add(u"ExporttoExcel2"_qs, u"Export to Excel (Rincian) 2"_qs, nullptr);
+}
+
+void Tfrm_hitung_gaji::btn_cetakClick() {
+    pmn_cetak->popup(m_ui->btn_cetak->mapToGlobal(QPoint(0, m_ui->btn_cetak->height())));
+}
+
+std::optional<payroll::Request> Tfrm_hitung_gaji::ticked_runs() {
+    QList<qint64> processIds;
+    data::dropFault("collecting the ticked runs",
+                    [&] { frame::forEachTicked(cds_m, [&] { processIds << cds_m.integer(u"process_id"); }); });
+    if (!processIds.isEmpty())
+        return payroll::Request{payroll::processFilter(processIds), m_ui->dtp_tgl_aw->date(),
+                                m_ui->dtp_tgl_akh->date()};
+    m_services.messages.inform(this, pilih_data);
+    return std::nullopt;
+}
+
+void Tfrm_hitung_gaji::print(const MakeReport& make) {
+    const std::optional<payroll::Request> request = ticked_runs();
+    if (!request)
+        return;
+    const WaitCursor wait;
+    const report::Captions captions = payroll::captionsOf(m_services.session, m_services.language.lang_column());
+    payroll::PayrollReports reports(m_services.session, captions);
+    if (std::optional<report::Document> document = make(reports, *request))
+        Tfrm_preview::open(std::move(*document), window());
+}
+
+void Tfrm_hitung_gaji::RekapPenggajian1Click() {
+    print([](auto& reports, const auto& request) { return reports.RekapPenggajian(request); });
+}
+
+void Tfrm_hitung_gaji::Rinciangaji1Click() {
+    print([](auto& reports, const auto& request) { return reports.RincianPenggajian(request); });
+}
+
+void Tfrm_hitung_gaji::SlipGaji1Click() {
+    print([](auto& reports, const auto& request) { return reports.SlipGaji(request); });
+}
