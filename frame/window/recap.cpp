@@ -1,5 +1,8 @@
 #include "frame/window/recap.h"
 
+#include <algorithm>
+#include <map>
+
 using namespace Qt::StringLiterals;
 
 namespace recap {
@@ -9,9 +12,10 @@ namespace {
 /// How a column of the recap departs from the figure of a payroll run.
 enum class Rule {
     AsInRun,
-    EveryRow,     ///< its amount sums all rows, so a total may exceed the sum of its parts
-    WithPresence, ///< only rows with a duration
-    InDays,       ///< a number of days whatever the settings say
+    EveryRow,              ///< its amount sums all rows, so a total may exceed the sum of its parts
+    WithPresence,          ///< only rows with a duration
+    EveryRowOrPresentDays, ///< an amount of all rows, or days with a duration
+    InDays,                ///< a number of days whatever the settings say
 };
 
 struct RecapFigure {
@@ -36,7 +40,7 @@ constexpr RecapFigure figures[] = {
     {"cuti"_L1, run::figureCuti},
     {"sakit"_L1, run::figureSakit},
     {"libur"_L1, run::figureLibur},
-    {"lembur"_L1, 13, Rule::EveryRow},
+    {"lembur"_L1, 13, Rule::EveryRowOrPresentDays},
     {"lembur_normal"_L1, 23},
     {"lembur_libur"_L1, 24},
     {"lembur_libur_umum"_L1, 25},
@@ -56,11 +60,19 @@ const run::FigurePart& everyRow() {
     return part;
 }
 
+/// A part with the further condition, and the text that its condition points to.
+struct Narrowed {
+    explicit Narrowed(const run::FigurePart& whole) :
+        conditions(QByteArray("sr.duration>0 and ") + QByteArray(whole.conditions.data(), whole.conditions.size())),
+        part{whole.table, QLatin1String(conditions), whole.amount, whole.days} {}
+
+    QByteArray conditions;
+    run::FigurePart part;
+};
+
 const run::FigurePart& withPresence(const run::FigurePart& part) {
-    static const QByteArray conditions =
-        QByteArray("sr.duration>0 and ") + QByteArray(part.conditions.data(), part.conditions.size());
-    static const run::FigurePart narrowed{part.table, QLatin1String(conditions), part.amount, part.days};
-    return narrowed;
+    static std::map<const run::FigurePart*, Narrowed> narrowed;
+    return narrowed.try_emplace(&part, part).first->second.part;
 }
 
 run::BulkColumn columnOf(const run::Figure& figure, const run::FigurePart& part, Rule rule,
@@ -70,8 +82,12 @@ run::BulkColumn columnOf(const run::Figure& figure, const run::FigurePart& part,
     if (rule == Rule::WithPresence)
         return run::bulkColumn(figure, withPresence(part), settings);
     run::BulkColumn column = run::bulkColumn(figure, part, settings);
-    if (rule == Rule::EveryRow && column.expression == part.amount)
+    if (rule == Rule::AsInRun)
+        return column;
+    if (column.expression == part.amount)
         column.part = &everyRow();
+    else if (rule == Rule::EveryRowOrPresentDays)
+        column.part = &withPresence(part);
     return column;
 }
 

@@ -1,0 +1,80 @@
+#include "frame/base/dept_tree.h"
+#include "tests/frame/fixture.h"
+
+#include <QTreeWidget>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// One line per entry, indented by level; the chosen one marked.
+void print(const TreeBox& box, const QTreeWidgetItem* parent, int level, QStringList& lines) {
+    for (int i = 0; i < parent->childCount(); ++i) {
+        const QTreeWidgetItem* entry = parent->child(i);
+        lines << QString(level, u'.') + entry->text(0) + (entry == box.chosen() ? QStringLiteral(" <") : QString());
+        print(box, entry, level + 1, lines);
+    }
+}
+
+std::string treeOf(TreeBox& box) {
+    QStringList lines;
+    print(box, box.tree().invisibleRootItem(), 0, lines);
+    return lines.join(u'|').toStdString();
+}
+
+class DepartmentTree : public testing::Test {
+protected:
+    /// Fills the box from these rows of dept alone.
+    std::string filled(const char* rows) {
+        company.database.run(QStringLiteral("delete from dept"));
+        if (*rows)
+            company.database.run(QStringLiteral("insert into dept(dept_id_auto, dept_name) values ") +
+                                 QString::fromUtf8(rows));
+        try {
+            frame::FillDeptTree(box, company.services.session);
+        } catch (const std::exception& fault) {
+            return treeOf(box) + " / " + fault.what();
+        }
+        return treeOf(box);
+    }
+
+    SmallCompany company;
+    TreeBox box;
+};
+
+TEST_F(DepartmentTree, StandsWhateverTheOrderOfTheRowsOfALevel) {
+    EXPECT_EQ(filled(R"((9,'PT'), (8,'PT\\B'), (2,'PT\\A\\X'), (1,'PT\\A'), (3,'PT\\B\\X'), (4,'PT\\B\\X\\Y'))"),
+              "PT <|.A|..X|.B|..X|...Y");
+    EXPECT_EQ(filled(R"((1,'PT\\A'), (2,'Dua'), (3,'PT'), (4,'Dua\\A'))"), "Dua <|.A|PT|.A");
+}
+
+TEST_F(DepartmentTree, OrphanFailsAndLeavesTheLevelsAboveIt) {
+    EXPECT_EQ(filled(R"((1,'PT'), (2,'PT\\A'), (3,'PT\\a\\Y'), (4,'PT\\A\\Z'))"),
+              "PT|.A / no department a to stand under");
+    EXPECT_EQ(filled(R"((1,'PT'), (2,'Lain\\A'))"), "PT / no department Lain to stand under");
+}
+
+TEST_F(DepartmentTree, SuiteWithoutDepartmentsGetsItsRoot) {
+    EXPECT_EQ(filled(""), "Nama Perusahaan <");
+    EXPECT_EQ(company.database.rows(QStringLiteral("select * from dept")),
+              QStringList(QStringLiteral("1\tNama Perusahaan\tNULL")));
+}
+
+TEST_F(DepartmentTree, PathOfTheChosenEntryHasFourBackslashesPerStep) {
+    frame::FillDeptTree(box, company.services.session);
+    EXPECT_EQ(frame::deptPath(box), QStringLiteral("PT"));
+    box.choose(box.tree().findItems(QStringLiteral("Las"), Qt::MatchExactly | Qt::MatchRecursive).first());
+    EXPECT_EQ(frame::deptPath(box), QStringLiteral(R"(PT\\\\Produksi\\\\Las)"));
+}
+
+TEST_F(DepartmentTree, DepartmentsWithEmployeesHaveAPictureOfTheirOwn) {
+    company.database.run(QStringLiteral("delete from emp where dept_id_auto=4"));
+    frame::FillDeptTree(box, company.services.session);
+    const auto picture = [this](const QString& text) {
+        return box.tree().findItems(text, Qt::MatchExactly | Qt::MatchRecursive).first()->icon(0).cacheKey();
+    };
+    EXPECT_EQ(picture(QStringLiteral("Produksi")), picture(QStringLiteral("Las")));
+    EXPECT_NE(picture(QStringLiteral("Produksi")), picture(QStringLiteral("Produksi Dua")));
+}
+
+} // namespace

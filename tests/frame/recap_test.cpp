@@ -1,0 +1,221 @@
+#include "frame/window/recap.h"
+#include "frame/window/recap_colours.h"
+#include "run/figures.h"
+#include "tests/frame/fixture.h"
+#include "tests/frame/recap_oracle.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace {
+
+const QString atWork = QStringLiteral("where emp_id_auto<>-1 and emp_status=0 ");
+const oracle::Period october{QDate(2026, 10, 1), QDate(2026, 10, 31)};
+
+const QStringList& figureColumns() {
+    static const QStringList columns{u"late"_qs,
+                                     u"early"_qs,
+                                     u"istirahat_lebih"_qs,
+                                     u"kehadiran"_qs,
+                                     u"hadir"_qs,
+                                     u"hadir_normal"_qs,
+                                     u"hadir_libur"_qs,
+                                     u"hadir_libur_umum"_qs,
+                                     u"hadir_libur_rutin"_qs,
+                                     u"hadir_izin"_qs,
+                                     u"tidak_hadir"_qs,
+                                     u"izin"_qs,
+                                     u"cuti"_qs,
+                                     u"sakit"_qs,
+                                     u"libur"_qs,
+                                     u"cadangan1"_qs,
+                                     u"cadangan2"_qs,
+                                     u"cadangan3"_qs,
+                                     u"lembur"_qs,
+                                     u"lembur_normal"_qs,
+                                     u"lembur_libur"_qs,
+                                     u"lembur_libur_umum"_qs,
+                                     u"lembur_libur_rutin"_qs,
+                                     u"lembur_jam"_qs,
+                                     u"lembur_shift"_qs,
+                                     u"aktiv"_qs,
+                                     u"aktiv2"_qs,
+                                     u"aktiv3"_qs};
+    return columns;
+}
+
+/// Attendance that no real month holds: several shifts a day, negative and empty amounts, rows that do not count, dates
+/// around the period's ends, a public holiday that is entered twice.
+class RandomAttendance final {
+public:
+    explicit RandomAttendance(unsigned seed) : m_random(seed) {}
+
+    void insertInto(TestDatabase& database) {
+        for (int i = 0; i < 300; ++i) {
+            database.run(QStringLiteral("insert into shift_result values(%1, '%2', %3, %4, %5, %6, %7, %8, %9, ")
+                             .arg(below(7))
+                             .arg(day())
+                             .arg(below(5) == 0 ? 1 : 0)
+                             .arg(amount(), amount(), amount(), amount(), flag(), flag()) +
+                         QStringList{amount(), amount(), amount(), amount()}.join(u", "_qs) + u')');
+            database.run(QStringLiteral("insert into date_temp values(%1, '%2', %3, 8, %4)")
+                             .arg(below(7))
+                             .arg(day())
+                             .arg(below(11))
+                             .arg(flag()));
+            database.run(QStringLiteral("insert into ex_absent values(%1, '%2', %3, %4)")
+                             .arg(below(7))
+                             .arg(day())
+                             .arg(9 + below(5))
+                             .arg(below(900) / 100.0));
+        }
+        for (int i = 0; i < 6; ++i)
+            database.run(QStringLiteral("insert into holiday values('%1')").arg(day()));
+        database.run(QStringLiteral("insert into holiday values('2026-10-09'), ('2026-10-09')"));
+    }
+
+private:
+    int below(int limit) { return int(m_random() % unsigned(limit)); }
+    QString day() { return QDate(2026, 9, 28).addDays(below(38)).toString(Qt::ISODate); }
+    QString flag() { return below(2) ? QStringLiteral("-1") : QStringLiteral("0"); }
+    QString amount() { return below(6) == 0 ? QStringLiteral("null") : QString::number((below(900) - 200) / 100.0); }
+
+    std::mt19937 m_random;
+};
+
+class Recap : public testing::Test {
+protected:
+    std::string recapOf(const oracle::Period& period) {
+        const auto rows = recap::open(company.services.session.ADOConn, {atWork, period.from, period.to});
+        rows->setOrder({QStringLiteral("emp_id_auto")});
+        QStringList lines;
+        for (rows->first(); !rows->isEof(); rows->next()) {
+            QString line = rows->text(u"emp_id_auto");
+            for (const QString& column : figureColumns())
+                line += QStringLiteral(" %1=%2").arg(column, QString::number(rows->real(column), 'f', 2));
+            lines << line;
+        }
+        return lines.join(u'\n').toStdString();
+    }
+
+    void setSwitches(const char* rows) {
+        company.database.run(QStringLiteral("delete from sum_report"));
+        company.database.run(QStringLiteral("insert into sum_report values ") + QString::fromUtf8(rows));
+    }
+
+    SmallCompany company;
+};
+
+TEST_F(Recap, EqualsEachFigureReadAloneInAmountsAndInDays) {
+    const unsigned seed = std::random_device()();
+    RandomAttendance(seed).insertInto(company.database);
+    for (const char* switches :
+         {"(99,1)", "(1,2),(2,2),(3,2),(4,2),(13,2),(14,3),(15,3),(16,3)", "(1,3),(4,2),(13,null),(14,2),(15,3)"}) {
+        setSwitches(switches);
+        for (const oracle::Period& period : {october, oracle::Period{QDate(2026, 10, 9), QDate(2026, 10, 9)}})
+            EXPECT_EQ(recapOf(period), oracle::recapOf(company.database, period).join(u'\n').toStdString())
+                << "seed " << seed << ", switches " << switches << ", from " << qPrintable(period.from.toString());
+    }
+}
+
+TEST_F(Recap, EqualsTheCalculatorWhereAFigureHasOneSource) {
+    const unsigned seed = std::random_device()();
+    RandomAttendance(seed).insertInto(company.database);
+    company.database.run(QStringLiteral("update shift_result set duration=1 where ifnull(duration,0)<=0"));
+    company.database.run(QStringLiteral("delete from shift_result where late<0 or early<0 or total_ot<0"));
+    const auto rows = recap::open(company.services.session.ADOConn, {atWork, october.from, october.to});
+    int compared = 0;
+    for (rows->first(); !rows->isEof(); rows->next())
+        for (const run::Figure& figure : run::figures()) {
+            const QString column = figure.id_kode_report == 3    ? u"istirahat_lebih"_qs
+                                   : figure.id_kode_report == 13 ? u"lembur"_qs
+                                                                 : QString(figure.column);
+            if (figure.parts.size() > 1 || !rows->hasField(column))
+                continue;
+            data::SqlQuery calculator(company.services.session.ADOConn, run::statementForEmployee(figure));
+            calculator.setParameter(u"emp_id_auto"_qs, rows->integer(u"emp_id_auto"));
+            calculator.setParameter(u"tanggal_awal"_qs, october.from);
+            calculator.setParameter(u"tanggal_akhir"_qs, october.to.addDays(1));
+            calculator.open();
+            EXPECT_DOUBLE_EQ(rows->real(column), calculator.real(QString(figure.column)))
+                << "seed " << seed << ' ' << qPrintable(column);
+            ++compared;
+        }
+    EXPECT_EQ(compared, 5 * 22);
+}
+
+TEST_F(Recap, ConditionNarrowsTheEmployees) {
+    const auto pinsFor = [this](const char* condition) {
+        const auto rows = recap::open(company.services.session.ADOConn,
+                                      {atWork + QString::fromUtf8(condition), october.from, october.to});
+        QStringList pins;
+        for (; !rows->isEof(); rows->next())
+            pins << rows->text(u"pin");
+        return pins.join(u',').toStdString();
+    };
+    EXPECT_EQ(pinsFor(""), "1,A 2,3,4,6");
+    EXPECT_EQ(pinsFor(R"( and dept_name like 'PT\\\\Produksi%' )"), "A 2,3,4,6");
+    EXPECT_EQ(pinsFor(R"( and dept_name like 'PT\\\\Produksi' )"), "A 2");
+    EXPECT_EQ(pinsFor(" and cab_name='Cabang D''Or' and func_name='Kepala' "), "4,6");
+    EXPECT_EQ(pinsFor(" and emp_id_auto=-1 "), "");
+}
+
+std::string colourOf(const recap::ColourSettings& settings, const char16_t* column, const QVariant& value) {
+    const GridColumn object({u"dbg_rekap"_qs + QString::fromUtf16(column), {}, {}}, nullptr);
+    const QColor colour = recap::cellColour(settings, {object, value});
+    return colour.isValid() ? colour.name().toStdString() : "";
+}
+
+TEST_F(Recap, ColoursFollowTheirFlagsAndTheRoundedValue) {
+    recap::ColourSettings on;
+    on.cl_tampil_grid_set = on.cl_terlambat_set = on.cl_cepat_set = true;
+    on.cl_terlambat = 0x010000;
+    on.cl_cepat = 0x020000;
+    on.cl_absen = 0x030000;
+    on.cl_absen_izin = 0x040000;
+    on.cl_libur = 0x050000;
+    recap::ColourSettings lateOnly = on;
+    lateOnly.cl_cepat_set = false;
+    recap::ColourSettings off = on;
+    off.cl_tampil_grid_set = false;
+    struct {
+        const char16_t* column;
+        double below;
+        double from;
+        const char* colour;
+        const char* lateOnly;
+    } const cases[] = {
+        {u"late", 0.4, 0.6, "#010000", "#010000"},
+        {u"early", 0.5, 1, "#020000", ""},
+        {u"kehadiran", 1, 0, "#030000", ""},
+        {u"tidak_hadir", 0, 1, "#030000", ""},
+        {u"izin", 0, 2, "#040000", ""},
+        {u"cuti", 0, 1, "#040000", ""},
+        {u"sakit", 0, 1, "#040000", ""},
+        {u"libur", 0, 1, "#050000", ""},
+        {u"hadir", 0, 1, "", ""},
+        {u"lembur", 0, 5, "", ""},
+    };
+    for (const auto& one : cases) {
+        EXPECT_EQ(colourOf(on, one.column, one.below), "");
+        EXPECT_EQ(colourOf(on, one.column, one.from), one.colour);
+        EXPECT_EQ(colourOf(lateOnly, one.column, one.from), one.lateOnly);
+        EXPECT_EQ(colourOf(off, one.column, one.from), "");
+    }
+}
+
+TEST_F(Recap, SettingThatCannotBeReadStaysAtItsFirstValue) {
+    company.database.runApp(QStringLiteral("insert into global_setting values('cl_terlambat_set', 'ya'),"
+                                           "('cl_cepat_set', 'True'), ('cl_tampil_grid_set', '-1'),"
+                                           "('cl_terlambat', '#123456'), ('cl_cepat', 'clRed'), ('cl_libur', '$FF')"));
+    const recap::ColourSettings read = recap::readColourSettings(company.services.session);
+    EXPECT_FALSE(read.cl_terlambat_set);
+    EXPECT_TRUE(read.cl_cepat_set && read.cl_tampil_grid_set);
+    EXPECT_EQ(read.cl_terlambat, QColor(Qt::black));
+    EXPECT_EQ(read.cl_absen, QColor(Qt::black));
+    EXPECT_EQ(read.cl_cepat, QColor(Qt::red));
+    EXPECT_EQ(read.cl_libur, QColor(Qt::red));
+}
+
+} // namespace
