@@ -46,11 +46,21 @@ FilterBlock::FilterBlock(QWidget* parent) : QWidget(parent), m_ui(std::make_uniq
 
 FilterBlock::~FilterBlock() = default;
 
+QWidget* FilterBlock::screen() {
+    QWidget* above = this;
+    while (above->parentWidget() && !above->objectName().startsWith(QLatin1String("frm_")))
+        above = above->parentWidget();
+    return above;
+}
+
 void FilterBlock::connectControls() {
-    onEvent(m_ui->cmb_filter, &QComboBox::activated, this, &FilterBlock::cmb_filterCloseUp);
-    onEvent(m_ui->lookup_cab, &LookupBox::closedUp, this, &FilterBlock::lookup_cabCloseUp);
-    onEvent(m_ui->lookup_jbt, &LookupBox::closedUp, this, &FilterBlock::lookup_jbtCloseUp);
-    onEvent(m_ui->TCB_dept, &TreeBox::closedUp, this, &FilterBlock::TCB_deptCloseUp);
+    const auto guarded = [this](void (FilterBlock::*handler)()) {
+        return [this, handler] { runHandler(screen(), [&] { (this->*handler)(); }); };
+    };
+    connect(m_ui->cmb_filter, &QComboBox::activated, this, guarded(&FilterBlock::cmb_filterCloseUp));
+    connect(m_ui->lookup_cab, &LookupBox::closedUp, this, guarded(&FilterBlock::lookup_cabCloseUp));
+    connect(m_ui->lookup_jbt, &LookupBox::closedUp, this, guarded(&FilterBlock::lookup_jbtCloseUp));
+    connect(m_ui->TCB_dept, &TreeBox::closedUp, this, guarded(&FilterBlock::TCB_deptCloseUp));
     connect(m_ui->btn_cari, &QPushButton::clicked, this, &FilterBlock::searchWanted);
     connect(m_ui->edt_filter, &QLineEdit::returnPressed, this, &FilterBlock::searchWanted);
 }

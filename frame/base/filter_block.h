@@ -68,6 +68,8 @@ private:
     void lookup_jbtCloseUp();
     void TCB_deptCloseUp();
 
+    /// The screen that carries the block; faults are shown as its own.
+    [[nodiscard]] QWidget* screen();
     void connectControls();
     void showControlOf(int index);
     [[nodiscard]] QString textCondition() const;

@@ -1,0 +1,76 @@
+# Every field of the filter on the recap, where the department limits each search.
+#: options --user hrd --now "2026-11-05 08:00"
+#: main insert into cabang values(1, 'Pusat'), (3, 'Cabang D''Or');
+#:+ insert into func values(1, 'Staf'), (2, 'Kepala');
+#:+ insert into dept values(4, 'PT\\Produksi\\Las', 'Las'), (2, 'PT\\Produksi', 'Produksi'), (1, 'PT', 'PT'), (3, 'PT\\Umum', 'Umum');
+#:+ insert into emp(emp_id_auto, pin, nik, first_name, last_name, cab_id_auto, dept_id_auto, func_id_auto, emp_status) values
+#:+   (-1, '0', '0', 'Tidak', 'Ada', 1, 1, 1, 0), (1, '1', 'N1', 'Ani', 'Putri', 1, 1, 1, 0),
+#:+   (2, 'A 2', 'N2', 'Anisa', null, 1, 2, 2, 0), (3, '3', 'N3', 'Ma''ruf', 'Ali', 3, 4, 1, 0),
+#:+   (4, '4', 'N4', 'Budi', 'Ani', 3, 3, 2, 0), (5, '5', 'N5', 'Ani', 'Keluar', 1, 2, 1, 1)
+#: app insert into global_setting values('default_lang', 'indonesia'), ('tanggal_awal_proses', '2026-10-01'), ('tanggal_akhir_proses', '2026-10-31')
+start
+items TCB_dept
+state edt_filter
+state chb_sub
+state btn_cari
+state pnl_emp
+echo PIN
+choose cmb_filter PIN
+type edt_filter "A 2"
+click btn_cari
+grid dbg_rekap
+echo NIK: exact only
+choose cmb_filter NIK
+get edt_filter
+type edt_filter N
+click btn_cari
+state dbg_rekap
+type edt_filter N3
+click btn_cari
+grid dbg_rekap
+echo name: from its start, an apostrophe is a letter, a percent sign is any text
+choose cmb_filter Nama
+type edt_filter Ani
+click btn_cari
+grid dbg_rekap
+type edt_filter "Ma'"
+click btn_cari
+grid dbg_rekap
+type edt_filter "%Ani"
+click btn_cari
+grid dbg_rekap
+echo branch
+choose cmb_filter Cabang
+choose lookup_cab "Cabang D'Or"
+click btn_cari
+grid dbg_rekap
+echo department with and without those below it
+choose cmb_filter Departemen
+state lookup_cab
+choose TCB_dept PT/Produksi
+get TCB_dept
+click btn_cari
+grid dbg_rekap
+click chb_sub
+click btn_cari
+grid dbg_rekap
+choose TCB_dept PT/Produksi/Las
+click btn_cari
+grid dbg_rekap
+echo function; without those below, the root alone is searched
+choose cmb_filter Jabatan
+choose lookup_jbt Kepala
+click btn_cari
+state dbg_rekap
+choose cmb_filter Departemen
+get TCB_dept
+click chb_sub
+choose cmb_filter Jabatan
+choose lookup_jbt Kepala
+click btn_cari
+grid dbg_rekap
+echo all
+choose cmb_filter Semua
+state lookup_jbt
+click btn_cari
+grid dbg_rekap
