@@ -7,6 +7,7 @@
 #include "register/reports/statements.h"
 #include "toolkit/data/drop_fault.h"
 #include "toolkit/report/fr_preview.h"
+#include "toolkit/ui/caption.h"
 #include "toolkit/ui/handler.h"
 #include "toolkit/ui/wait_cursor.h"
 #include "ui_fr_hitung_gaji.h"
@@ -52,25 +53,29 @@ std::optional<payroll::Request> Tfrm_hitung_gaji::ticked_runs() {
     return std::nullopt;
 }
 
-void Tfrm_hitung_gaji::print(const MakeReport& make) {
+void Tfrm_hitung_gaji::print(const QString& entry, const MakeReport& make) {
     const std::optional<payroll::Request> request = ticked_runs();
     if (!request)
         return;
     const WaitCursor wait;
     const report::Captions captions = payroll::captionsOf(m_services.session, m_services.language.lang_column());
     payroll::PayrollReports reports(m_services.session, captions);
-    if (std::optional<report::Document> document = make(reports, *request))
-        Tfrm_preview::open(std::move(*document), window());
+    std::optional<report::Document> document = make(reports, *request);
+    if (!document)
+        return;
+    Tfrm_preview& preview = Tfrm_preview::open(std::move(*document), window());
+    preview.setWindowTitle(captionText(pmn_cetak->findChild<QAction*>(entry)->text()));
+    m_services.language.ApplyLanguage(preview);
 }
 
 void Tfrm_hitung_gaji::RekapPenggajian1Click() {
-    print([](auto& reports, const auto& request) { return reports.RekapPenggajian(request); });
+    print(u"RekapPenggajian1"_qs, [](auto& reports, const auto& request) { return reports.RekapPenggajian(request); });
 }
 
 void Tfrm_hitung_gaji::Rinciangaji1Click() {
-    print([](auto& reports, const auto& request) { return reports.RincianPenggajian(request); });
+    print(u"Rinciangaji1"_qs, [](auto& reports, const auto& request) { return reports.RincianPenggajian(request); });
 }
 
 void Tfrm_hitung_gaji::SlipGaji1Click() {
-    print([](auto& reports, const auto& request) { return reports.SlipGaji(request); });
+    print(u"SlipGaji1"_qs, [](auto& reports, const auto& request) { return reports.SlipGaji(request); });
 }

@@ -58,7 +58,8 @@ private:
     void delete_current_run();
     /// The runs to print; none, with a message, where none is ticked.
     [[nodiscard]] std::optional<payroll::Request> ticked_runs();
-    void print(const MakeReport& make);
+    /// Previews a report under the caption of its menu entry; what makes no document shows nothing.
+    void print(const QString& entry, const MakeReport& make);
     void open_form(RunFormTask task);
 
     std::unique_ptr<Ui::frm_hitung_gaji> m_ui;

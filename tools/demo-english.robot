@@ -1,8 +1,5 @@
 # The same screens in English.
 start
-wait 1500
-shot 11-guide.png
-close frm_warning
 shot 12-recap.png
 click Image2
 set dtp_tgl_aw @AWAL@

@@ -1,8 +1,5 @@
 # The program's main job on the demo company. @AWAL@ and @AKHIR@ stand for the first and last day of the last month.
 start
-wait 1500
-shot 01-panduan.png
-close frm_warning
 grid dbg_rekap
 shot 02-rekap.png
 choose cmb_filter Departemen

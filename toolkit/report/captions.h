@@ -15,6 +15,7 @@ public:
 
     /// Names go without regard to case; one that is not there is passed over.
     void replace(const QString& name, const QString& text);
+    [[nodiscard]] const QHash<QString, QString>& byName() const { return m_texts; }
     /// Throws std::out_of_range on a name that is not there.
     [[nodiscard]] const QString& operator[](const QString& name) const;
 
