@@ -1,11 +1,14 @@
 #include "toolkit/ui/data_grid.h"
 
+#include "toolkit/data/drop_fault.h"
 #include "toolkit/ui/band_header.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QSet>
+
+#include <algorithm>
 
 DataGrid::DataGrid(QWidget* parent) : QTableView(parent), m_model(new GridModel(this)) {
     setHorizontalHeader(new BandHeader(this));
@@ -31,6 +34,8 @@ void DataGrid::setColumns(const std::vector<ColumnPlan>& columns, const std::vec
     for (const ColumnPlan& plan : columns)
         objects.push_back(new GridColumn(plan, this));
     m_model->setColumns(objects);
+    if (std::ranges::any_of(objects, &GridColumn::isEditable))
+        setEditTriggers(EditKeyPressed | DoubleClicked | AnyKeyPressed);
     for (std::size_t i = 0; i < objects.size(); ++i)
         setColumnHidden(int(i), objects[i]->isHidden());
     if (bands.empty())
@@ -51,6 +56,10 @@ void DataGrid::setDataSet(data::DataSet* set) {
         return;
     for (const auto signal : {&data::DataSet::opened, &data::DataSet::cursorMoved, &data::DataSet::reset})
         connect(set, signal, this, &DataGrid::followCursor);
+    connect(set, &data::DataSet::flushRequested, this, [this] {
+        if (QWidget* editor = indexWidget(currentIndex()))
+            commitData(editor);
+    });
     followCursor();
 }
 
@@ -98,6 +107,13 @@ void DataGrid::toggle(int column) {
 void DataGrid::mousePressEvent(QMouseEvent* event) {
     m_rowBeforePress = currentIndex().row();
     QTableView::mousePressEvent(event);
+}
+
+bool DataGrid::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
+    const bool opened = QTableView::edit(index, trigger, event);
+    if (opened && indexWidget(index) && dataSet()->state() == data::State::Browse)
+        data::dropFault("editing a record that takes no changes", [this] { dataSet()->edit(); });
+    return opened;
 }
 
 void DataGrid::mouseReleaseEvent(QMouseEvent* event) {

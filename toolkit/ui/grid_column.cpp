@@ -32,6 +32,10 @@ void GridColumn::setCaption(const QString& caption) {
     Q_EMIT changed();
 }
 
+QString GridColumn::editText(const QVariant& value) const {
+    return m_plan.show == Show::Money ? plainText(value) : displayText(value);
+}
+
 QString GridColumn::displayText(const QVariant& value) const {
     if (!value.isValid())
         return {};

@@ -20,7 +20,8 @@ struct ColumnPlan {
     QString caption;
     Show show = Show::Plain;
     bool hidden = false;
-    QString band{}; ///< object name of the band above it, empty for none
+    QString band{};        ///< object name of the band above it, empty for none
+    bool editable = false; ///< cells take text from the keyboard
 };
 
 /// What a screen says of one band: a heading over the columns that name it.
@@ -58,8 +59,11 @@ public:
     [[nodiscard]] const QString& caption() const { return m_plan.caption; }
     [[nodiscard]] Show show() const { return m_plan.show; }
     [[nodiscard]] bool isHidden() const { return m_plan.hidden; }
+    [[nodiscard]] bool isEditable() const { return m_plan.editable; }
     void setCaption(const QString& caption);
 
+    /// The value as it stands in an open cell: numbers with a comma and without points.
+    [[nodiscard]] QString editText(const QVariant& value) const;
     /// The value as the grid shows it.
     [[nodiscard]] QString displayText(const QVariant& value) const;
 

@@ -1,5 +1,8 @@
 #include "toolkit/ui/grid_model.h"
 
+#include "toolkit/data/drop_fault.h"
+#include "toolkit/text/number_text.h"
+
 #include <utility>
 
 GridModel::GridModel(QObject* parent) : QAbstractTableModel(parent) {}
@@ -88,6 +91,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     switch (role) {
     case Qt::DisplayRole:
         return column.displayText(value);
+    case Qt::EditRole:
+        return column.editText(value);
     case Qt::TextAlignmentRole:
         return QVariant::fromValue(isNumber(index.column()) ? Qt::AlignRight | Qt::AlignVCenter
                                                             : Qt::AlignLeft | Qt::AlignVCenter);
@@ -112,7 +117,21 @@ QVariant GridModel::headerData(int section, Qt::Orientation orientation, int rol
     return {};
 }
 
+bool GridModel::setData(const QModelIndex& index, const QVariant& value, int role) {
+    if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable))
+        return false;
+    const QString text = isNumber(index.column()) ? NormalizeDecimal(value.toString()) : value.toString();
+    return data::dropFault("an entry that the field does not take", [&] {
+        if (m_set->row() != index.row())
+            m_set->goToRow(index.row());
+        m_set->editValue(m_columns[std::size_t(index.column())]->field(), text);
+    });
+}
+
 Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
-    const bool tick = m_columns[std::size_t(index.column())]->show() == Show::Tick;
-    return Qt::ItemIsEnabled | Qt::ItemIsSelectable | (tick ? Qt::ItemIsUserCheckable : Qt::NoItemFlags);
+    const GridColumn& column = *m_columns[std::size_t(index.column())];
+    Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    flags.setFlag(Qt::ItemIsUserCheckable, column.show() == Show::Tick);
+    flags.setFlag(Qt::ItemIsEditable, column.isEditable());
+    return flags;
 }
