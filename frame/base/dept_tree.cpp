@@ -24,17 +24,22 @@ struct Department {
     bool placed = false;
 };
 
-/// A disc for a department with employees, a ring for one without.
-QIcon iconFor(Staff staff) {
+QPixmap mark(Staff staff, const QColor& colour) {
     QPixmap picture(32, 32);
     picture.fill(Qt::transparent);
     QPainter painter(&picture);
     painter.setRenderHint(QPainter::Antialiasing);
-    const QColor colour(0x0f, 0x6b, 0x8f);
     painter.setPen(QPen(colour, 3));
     painter.setBrush(staff == Staff::Some ? QBrush(colour) : Qt::NoBrush);
     painter.drawEllipse(8, 8, 16, 16);
     return picture;
+}
+
+/// A disc for a department with employees, a ring for one without.
+QIcon iconFor(Staff staff) {
+    QIcon icon(mark(staff, QColor(0x0f, 0x6b, 0x8f)));
+    icon.addPixmap(mark(staff, Qt::white), QIcon::Selected);
+    return icon;
 }
 
 std::vector<Department> readDepartments(Session& session) {
