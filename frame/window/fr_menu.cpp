@@ -145,8 +145,7 @@ void Tfrm_menu::read_periode() {
     };
     read(m_ui->dtp_tgl_aw, setting::tanggalAwalProses);
     read(m_ui->dtp_tgl_akh, setting::tanggalAkhirProses);
-    m_ui->lbl_tgl->setText(
-        QStringLiteral("Tanggal : %1 s/d %2").arg(m_ui->dtp_tgl_aw->text(), m_ui->dtp_tgl_akh->text()));
+    m_ui->lbl_tgl->setText(txt_tanggal.text() + m_ui->dtp_tgl_aw->text() + txt_sd.text() + m_ui->dtp_tgl_akh->text());
 }
 
 void Tfrm_menu::read_session_cab() {

@@ -4,6 +4,7 @@
 #include "frame/window/fr_warning.h"
 #include "frame/window/recap_colours.h"
 #include "toolkit/platform/host.h"
+#include "toolkit/ui/named_text.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -76,5 +77,7 @@ private:
     std::unique_ptr<data::SqlQuery> sql_rekap;
     QTimer Timer1; ///< shows the quick guide a second after the start
     std::unique_ptr<Tfrm_warning> m_frm_warning;
+    NamedText txt_tanggal{this, QStringLiteral("txt_tanggal"), QStringLiteral("Tanggal : ")};
+    NamedText txt_sd{this, QStringLiteral("txt_sd"), QStringLiteral(" s/d ")};
     bool first_activate = false;
 };

@@ -27,6 +27,15 @@ Fault faultOf(MYSQL* session, const QString& sql) {
                  QString::fromUtf8(mysql_error(session)), sql);
 }
 
+/// After these the session is broken, or the server is about to end it; the next statement opens a new one.
+bool endsSession(unsigned code) {
+    constexpr unsigned serverShutdown = 1053;
+    constexpr unsigned interrupted = 1317;
+    constexpr unsigned connectionKilled = 1927;
+    const bool clientLibrary = code >= 2000 && code < 3000;
+    return clientLibrary || code == serverShutdown || code == interrupted || code == connectionKilled;
+}
+
 } // namespace
 
 void Connection::Close::operator()(st_mysql* session) const {
@@ -101,8 +110,7 @@ void Connection::send(const QByteArray& utf8, const QString& sql) {
 
 void Connection::raise(const QString& sql) {
     const Fault fault = faultOf(m_session.get(), sql);
-    // 2000 and up are the client library's own: the session is broken, the next statement opens a new one.
-    if (fault.code() >= 2000 && fault.code() < 3000)
+    if (endsSession(fault.code()))
         close();
     throw fault;
 }
