@@ -72,6 +72,23 @@ TEST(Breaking, AWrappedTextIsNotTorn) {
                                       "page 2 of 2\n[] | Angsuran/Pinjaman/Koperasi\n1.10\n1.11\n1.12\nfoot");
 }
 
+TEST(Breaking, ListsBesideEachOtherBreakWhereNeitherIsTorn) {
+    const Orders left({12});
+    const Orders right({12});
+    report::Report report = left.report();
+    report::List rightList = std::get<report::List>(right.report().section.parts[1]);
+    rightList.line.items[0].text = [&] {
+        return right.m_lines->row() == 8 ? u"Angsuran Pinjaman Koperasi"_s : right.m_lines->text(u"text");
+    };
+    report.section.parts = {
+        report::SideBySide{.left = std::get<report::List>(report.section.parts[1]), .right = rightList, .rightX = 25}};
+    const report::Document document = compose(report);
+    ASSERT_EQ(document.pages.size(), 2u);
+    // The ninth line at the right takes three lines; only eight of either list stand before it.
+    EXPECT_EQ(document.pages[0].marks.size(), 1u + 8 + 8);
+    EXPECT_EQ(document.pages[1].marks.size(), 1u + 4 + 4);
+}
+
 TEST(Breaking, APaddedFrameLeavesLessRoomAndEndsWithItsPiece) {
     const Orders orders({12});
     report::Report report = orders.report();

@@ -65,6 +65,13 @@ TEST_F(Preview, ButtonsAndTypedNumbersGoFromPageToPage) {
     }
 }
 
+TEST_F(Preview, APageThatCannotComeToTheTopIsTheCurrentOneAllTheSame) {
+    preview->resize(900, 1500);
+    control<QComboBox>(u"cmb_zoom"_s)->setCurrentText(u"50 %"_s);
+    press(u"btn_terakhir"_s);
+    EXPECT_EQ(shown(), u"Halaman 5 dari 5"_s);
+}
+
 TEST_F(Preview, TheFirstAndLastPageHaveNoWayBeyond) {
     const auto enabled = [this] {
         QString marks;
