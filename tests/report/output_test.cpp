@@ -6,6 +6,7 @@
 
 #include <QFile>
 #include <QImage>
+#include <QPrinter>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -81,6 +82,22 @@ TEST(Pdf, TextsStandAndRunAsTheyWereMeasured) {
 TEST(Pdf, WhatCannotBeWrittenIsTold) {
     const Written file;
     EXPECT_THROW(savePdf(file.document, file.folder.filePath(u"missing/daftar.pdf"_s)), report::OutputFault);
+}
+
+TEST(Printer, TakesThePagesAskedForAtItsOwnResolution) {
+    const Written file;
+    const QString path = file.folder.filePath(u"cetak.pdf"_s);
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path);
+    printer.setResolution(300);
+    preparePrinter(printer, file.document);
+    printPages(file.document, printer, 2, 2);
+    EXPECT_EQ(outputOf(u"pdftotext"_s, {u"-layout"_s, path, u"-"_s}).simplified(), u"Budi 950"_s);
+    EXPECT_TRUE(outputOf(u"pdfinfo"_s, {path}).contains(u"612 x 936 pts"_s));
+    const std::vector<Word> words = findWord(path, u"950"_s);
+    ASSERT_EQ(words.size(), 1u);
+    EXPECT_NEAR(words[0].right, 7.62 + 80, 0.2);
 }
 
 TEST(Painter, FillsFramesAndRulesLieUnderTheTexts) {

@@ -10,40 +10,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-class Slip : public PayrollPapers {
-protected:
-    /// `count` components from com_id `first` on.
-    void addComponents(int first, int count, int type) {
-        for (int com_id = first; com_id < first + count; ++com_id)
-            add({.com_id = com_id, .com_name = u"Komponen %1"_s.arg(com_id), .type = type});
-    }
-    static QList<Line> lines(int first, int count) {
-        QList<Line> result;
-        for (int com_id = first; com_id < first + count; ++com_id)
-            result << Line{com_id, 1000.0 * com_id};
-        return result;
-    }
-    [[nodiscard]] std::string slips(const QList<qint64>& ids, const QString& band) {
-        return paper(reports.SlipGaji(runs(ids)), band);
-    }
-};
-
-double topOf(const report::Document& document, const QString& text) {
-    const auto& marks = document.pages[0].marks;
-    const auto mark = std::ranges::find(marks, text, &report::Mark::text);
-    return mark == marks.end() ? -1 : mark->box.top();
-}
-
-} // namespace
-
-TEST_F(Slip, IsAFrameWithHeadTwoListsAndAFoot) {
-    add({.com_id = 1, .com_name = u"Gaji Pokok"_s});
-    add({.com_id = 2, .com_name = u"Lembur"_s});
-    add({.com_id = 9, .com_name = u"Angsuran Pinjaman Koperasi"_s, .type = 1});
-    employee(1, u"Ani Lestari"_s);
-    pay(1, 1, 3800000,
-        {{1, 4000000, u"* 4.000.000"_s}, {2, 100000, u"1.5 * 20.000"_s, 2.5}, {9, 300000, u" x Angsuran"_s, 2}});
-    EXPECT_EQ(textLines(reports.SlipGaji(runs({1}))).join(u'\n').toStdString(), R"--(page 1 of 1 215.9x330.2 mm
+// Of an employee with two earnings and a loan whose name takes two lines.
+constexpr char wholeSlip[] = R"--(page 1 of 1 215.9x330.2 mm
 slip 7.6 7.6 "" box fill #eeeeee
 head 9.6 9.6 "Nama Perusahaan"
 head 36.6 9.6 " : "
@@ -122,7 +90,42 @@ foot 36.6 76.4 " : "
 foot 39.6 76.4 "Operator"
 foot 110.0 76.4 "Tgl. Cetak"
 foot 137.0 76.4 " : "
-foot 140.0 76.4 "05/06/2026 14:03:09")--");
+foot 140.0 76.4 "05/06/2026 14:03:09")--";
+
+class Slip : public PayrollPapers {
+protected:
+    /// `count` components from com_id `first` on.
+    void addComponents(int first, int count, int type) {
+        for (int com_id = first; com_id < first + count; ++com_id)
+            add({.com_id = com_id, .com_name = u"Komponen %1"_s.arg(com_id), .type = type});
+    }
+    static QList<Line> lines(int first, int count) {
+        QList<Line> result;
+        for (int com_id = first; com_id < first + count; ++com_id)
+            result << Line{com_id, 1000.0 * com_id};
+        return result;
+    }
+    [[nodiscard]] std::string slips(const QList<qint64>& ids, const QString& band) {
+        return paper(reports.SlipGaji(runs(ids)), band);
+    }
+};
+
+double topOf(const report::Document& document, const QString& text) {
+    const auto& marks = document.pages[0].marks;
+    const auto mark = std::ranges::find(marks, text, &report::Mark::text);
+    return mark == marks.end() ? -1 : mark->box.top();
+}
+
+} // namespace
+
+TEST_F(Slip, IsAFrameWithHeadTwoListsAndAFoot) {
+    add({.com_id = 1, .com_name = u"Gaji Pokok"_s});
+    add({.com_id = 2, .com_name = u"Lembur"_s});
+    add({.com_id = 9, .com_name = u"Angsuran Pinjaman Koperasi"_s, .type = 1});
+    employee(1, u"Ani Lestari"_s);
+    pay(1, 1, 3800000,
+        {{1, 4000000, u"* 4.000.000"_s}, {2, 100000, u"1.5 * 20.000"_s, 2.5}, {9, 300000, u" x Angsuran"_s, 2}});
+    EXPECT_EQ(textLines(reports.SlipGaji(runs({1}))).join(u'\n').toStdString(), wholeSlip);
 }
 
 TEST_F(Slip, CountsALineThatIsTheSameInTwoRunsOnceButPaysBoth) {
