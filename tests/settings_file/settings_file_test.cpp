@@ -2,136 +2,185 @@
 
 #include "frame/settings_file/field_code.h"
 
-#include <QFile>
+#include <QDir>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
 #include <sys/stat.h>
 
-#include <string>
+#include <random>
 
 using namespace settings;
+using namespace Qt::StringLiterals;
 
 namespace {
+
+QByteArray coded(const QString& value) {
+    return EncodeField(value).toLatin1();
+}
 
 /// A settings file in a folder of its own.
 class SettingsFile : public testing::Test {
 protected:
     void write(const QByteArray& content) {
         QFile file(m_path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        ASSERT_EQ(file.write(content), content.size());
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
     }
 
     /// "user|server|password|database|port", or "raises".
     std::string read() {
         try {
             const DatabaseSettings s = readSettingsFile(m_path);
-            const QStringList texts{s.user, s.server, s.password, s.database, QString::number(s.port)};
-            return texts.join(u'|').toStdString();
+            return QStringList{s.user, s.server, s.password, s.database, QString::number(s.port)}
+                .join(u'|')
+                .toStdString();
         } catch (const SettingsFileError&) {
             return "raises";
         }
     }
 
-    mode_t mode() const {
-        struct stat status {};
-        return ::stat(QFile::encodeName(m_path).constData(), &status) == 0 ? status.st_mode & 07777U : 0;
+    /// Exit code and output of the command line tool.
+    std::pair<int, std::string> tvk(const QString& arguments, const QByteArray& input = {}) {
+        QProcess process;
+        process.setWorkingDirectory(m_folder.path());
+        process.setProcessChannelMode(QProcess::MergedChannels);
+        process.start(QStringLiteral(TVK_PROGRAM), arguments.split(u' ', Qt::SkipEmptyParts));
+        process.write(input);
+        process.closeWriteChannel();
+        process.waitForFinished();
+        return {process.exitCode(), process.readAll().toStdString()};
     }
 
+    const QByteArray user = coded(u"u"_s), server = coded(u"s"_s), password = coded(u"p w"_s);
+    const QByteArray database = coded(u"d"_s), port = coded(u"3306"_s);
     QTemporaryDir m_folder;
-    QString m_path = m_folder.filePath(QStringLiteral("user.tvk"));
+    QString m_path = m_folder.filePath(u"user.tvk"_s);
 };
 
-QByteArray coded(const char* value) {
-    return EncodeField(QString::fromUtf8(value)).toLatin1();
+QByteArray mutated(QByteArray file, std::mt19937& random) {
+    const auto below = [&random](qsizetype limit) { return qsizetype(random() % size_t(limit)); };
+    const auto bytes = [&](qsizetype count) {
+        QByteArray made;
+        for (; count > 0; --count)
+            made += below(3) == 0 ? " \"=\n"[below(4)] : char(below(256));
+        return made;
+    };
+    const QByteArray choices[] = {bytes(400), coded(u"u"_s), bytes(12).toBase64(),
+                                  coded(QString::number(below(70000))) + ' '};
+    for (qsizetype changes = 1 + below(3); changes > 0; --changes)
+        file.replace(below(file.size()), below(6), below(2) == 0 ? bytes(below(3)) : choices[below(4)]);
+    return file.left(below(10) == 0 ? below(120) : file.size());
+}
+
+/// A value may only come from a field that stands in the file whole, marks and all.
+bool standsInFile(const QString& value, const QByteArray& content) {
+    return value == foreignValue || content.contains(coded(value));
 }
 
 } // namespace
 
-TEST_F(SettingsFile, EveryValueComesBackAsWritten) {
+TEST_F(SettingsFile, EveryValueComesBackAsWrittenForItsOwnerAlone) {
     const QString marks = DecodeBase64(EncodeField(QString()));
     const DatabaseSettings cases[] = {
-        {QStringLiteral("root"), QStringLiteral("localhost"), QStringLiteral("s3cret"), QStringLiteral("orvane"), 3306},
+        {u"root"_s, u"localhost"_s, u"s3cret"_s, u"orvane"_s, 3306},
         {QString(), QString(), QString(), QString(), 0},
-        {QStringLiteral(" two  blanks "), QStringLiteral("10.0.0.1"), QStringLiteral("a \"quoted\" 'one' \\ =;#"),
-         QStringLiteral("tab\there\nline\r\n"), 65535},
-        {QStringLiteral("aaa"), marks, marks + marks, QStringLiteral("=="), 1},
-        {QStringLiteral("gaji é€ 給与 😀"), QStringLiteral("\uFEFFbom"), QString(5000, u'x'), QString(QChar(0)), 3307},
+        {u" two  blanks "_s, u"10.0.0.1"_s, u"a \"quoted\" 'one' \\ =;#"_s, u"tab\there\nline\r\n"_s, 65535},
+        {u"aaa"_s, marks, marks + marks, u"=="_s, 1},
+        {u"gaji é€ 給与 😀"_s, u"\uFEFFbom"_s, QString(5000, u'x'), QString(QChar(0)), 3307},
     };
+    write("an older file, open to all");
+    ::chmod(QFile::encodeName(m_path).constData(), 0666);
     for (const DatabaseSettings& written : cases) {
         writeSettingsFile(m_path, written);
         EXPECT_EQ(readSettingsFile(m_path), written) << written.user.toStdString();
     }
+    struct stat status {};
+    ASSERT_EQ(::stat(QFile::encodeName(m_path).constData(), &status), 0);
+    EXPECT_EQ(status.st_mode & 07777U, 0600U);
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"user.tvk"_s});
 }
 
-TEST_F(SettingsFile, FieldsMayBePartedAndQuotedInManyWays) {
-    const QByteArray u = coded("u"), s = coded("s"), p = coded("p w"), d = coded("d"), n = coded("3306");
-    const QByteArray cases[] = {
-        u + ' ' + s + ' ' + p + ' ' + d + ' ' + n,
-        "  " + u + "\r\n" + s + "\r\n" + p + "\r\n" + d + "\r\n" + n + "\r\n",
-        "\xEF\xBB\xBF" + u + ' ' + s + '\t' + p + "\n\n" + d + "  " + n,
-        '"' + u + "\" \"" + s + "\"" + p + " \"" + d + "\"\n\"" + n + '"',
-        '"' + u + "\" " + s + ' ' + p + ' ' + d + " \"" + n,
-        u + ' ' + s + ' ' + p + ' ' + d + ' ' + n + " what stands behind the fifth \" does not count",
-    };
-    for (const QByteArray& content : cases) {
-        write(content);
-        EXPECT_EQ(read(), "u|s|p w|d|3306") << content.toStdString();
-    }
-}
-
-TEST_F(SettingsFile, BrokenFilesRaiseAndForeignFieldsReadAaa) {
-    const QByteArray u = coded("u") + ' ', s = coded("s") + ' ', p = coded("p") + ' ', d = coded("d") + ' ';
-    const QByteArray n = coded("3306"), foreign = "cm9vdA== ";
+TEST_F(SettingsFile, IsReadInManyFormsAndRaisesWhereItIsBroken) {
+    const QByteArray head = user + ' ' + server + ' ' + password + ' ' + database + ' ', foreign = "cm9vdA==";
     const std::pair<QByteArray, const char*> cases[] = {
+        {"  " + head.simplified().replace(' ', "\r\n") + "\r\n" + port + "\r\n", "u|s|p w|d|3306"},
+        {"\xEF\xBB\xBF" + head + '\t' + port, "u|s|p w|d|3306"},
+        {'"' + user + "\" \"" + server + "\"" + password + " \"" + database + "\"\n\"" + port + '"', "u|s|p w|d|3306"},
+        {head + " \"" + port, "u|s|p w|d|3306"},
+        {head + port + " what stands behind the fifth \" does not count", "u|s|p w|d|3306"},
+        {foreign + ' ' + head.sliced(user.size() + 1) + port, "aaa|s|p w|d|3306"},
+        {user + ' ' + server + ' ' + foreign + ' ' + foreign + ' ' + port, "u|s|aaa|aaa|3306"},
         {"", "raises"},
         {" \r\n ", "raises"},
-        {u + s + p + d, "raises"},
-        {"\"" + u.trimmed() + "\"\"" + s.trimmed() + "\" " + p + d + n, "raises"},
-        {foreign + s + p + d + n, "aaa|s|p|d|3306"},
-        {u + foreign + p + d + n, "u|aaa|p|d|3306"},
-        {u + s + foreign + d + n, "u|s|aaa|d|3306"},
-        {u + s + p + foreign + n, "u|s|p|aaa|3306"},
-        {u + s + p + d + foreign, "raises"},
-        {u + s + p + d + "3306", "raises"},
-        {u + s + p + d + coded(""), "raises"},
-        {u + s + p + d + coded("33o6"), "raises"},
-        {u + s + p + d + coded("-1"), "raises"},
-        {u + s + p + d + coded("65536"), "raises"},
-        {u + s + p + d + coded("99999999999999999999"), "raises"},
+        {head, "raises"},
+        {head + foreign, "raises"},
+        {head + "3306", "raises"},
+        {head + coded({}), "raises"},
+        {head + coded(u"33o6"_s), "raises"},
+        {head + coded(u"-1"_s), "raises"},
+        {head + coded(u"65536"_s), "raises"},
+        {head + coded(u"99999999999999999999"_s), "raises"},
         {QByteArray(3 << 20, 'A'), "raises"},
     };
+    EXPECT_EQ(read(), "raises") << "no file";
     for (const auto& [content, result] : cases) {
         write(content);
         EXPECT_EQ(read(), result) << content.left(200).toStdString();
     }
-}
-
-TEST_F(SettingsFile, FourFieldsAreTooFewToShow) {
-    write(coded("u") + ' ' + coded("s") + ' ' + coded("p") + ' ' + coded("d"));
-    EXPECT_THROW(static_cast<void>(readSettingsFields(m_path)), SettingsFileError);
-}
-
-TEST_F(SettingsFile, AMissingFileOrAFolderInItsPlaceRaisesAndNamesThePath) {
-    EXPECT_EQ(read(), "raises");
     m_path = m_folder.path();
-    EXPECT_EQ(read(), "raises");
-    try {
-        writeSettingsFile(m_path, {});
-        FAIL() << "replaced a folder";
-    } catch (const SettingsFileError& fault) {
-        EXPECT_TRUE(QString::fromUtf8(fault.what()).startsWith(m_path)) << fault.what();
-    }
+    EXPECT_EQ(read(), "raises") << "a folder";
+    EXPECT_THROW(writeSettingsFile(m_path, {}), SettingsFileError);
 }
 
-TEST_F(SettingsFile, IsItsOwnersAloneWhateverStoodThereBefore) {
-    const mode_t previous = ::umask(0);
-    write("an older file, open to all");
-    ::chmod(QFile::encodeName(m_path).constData(), 0666);
-    writeSettingsFile(m_path, {});
-    ::umask(previous);
-    EXPECT_EQ(mode(), 0600U);
-    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{QStringLiteral("user.tvk")});
+TEST_F(SettingsFile, TenThousandWrongFilesRaiseOrGiveWholeFieldsOnly) {
+    const unsigned seed = std::random_device()();
+    SCOPED_TRACE("seed " + std::to_string(seed));
+    std::mt19937 random(seed);
+    const QByteArray good = user + ' ' + server + ' ' + password + ' ' + database + ' ' + port;
+    constexpr int rounds = 10000;
+    int accepted = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const QByteArray content = mutated(good, random);
+        write(content);
+        try {
+            for (const QString& value : readSettingsFields(m_path))
+                ASSERT_TRUE(standsInFile(value, content)) << content.toPercentEncoding().toStdString();
+            static_cast<void>(readSettingsFile(m_path));
+            ++accepted;
+        } catch (const SettingsFileError&) {
+        }
+    }
+    // Both ends must have been reached, or the files prove nothing.
+    EXPECT_GT(accepted, rounds / 20);
+    EXPECT_LT(accepted, rounds * 19 / 20);
+}
+
+TEST_F(SettingsFile, TheToolWritesWhatTheProgramReadsAndShowsAllButThePassword) {
+    const auto written = tvk(u"user.tvk --user gaji --server db.local --password - --database orvane --port 3307"_s,
+                             "kata sandi-é\nsecond line");
+    EXPECT_EQ(written, std::pair(0, std::string()));
+    EXPECT_EQ(read(), "gaji|db.local|kata sandi-é|orvane|3307");
+    EXPECT_EQ(tvk(u"user.tvk --show"_s), std::pair(0, std::string("user:     gaji\nserver:   db.local\n"
+                                                                  "password: (hidden)\ndatabase: orvane\n"
+                                                                  "port:     3307\n")));
+}
+
+TEST_F(SettingsFile, WrongUseOfTheToolSaysWhatIsWrongAndWritesNothing) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"", "exactly one FILE is needed"},
+        {"x.tvk y.tvk --show", "exactly one FILE is needed"},
+        {"x.tvk --user u --server s --password p --database d", "--port is missing"},
+        {"x.tvk --user u --server s --password p --database d --port 0", "--port takes a number from 1 to 65535"},
+        {"x.tvk --user u --server s --password - --database d --port 1", "no password on standard input"},
+        {"x.tvk --show", "x.tvk: No such file or directory"},
+        {"no/x.tvk --user u --server s --password p --database d --port 1", "no/x.tvk: No such file or directory"},
+    };
+    for (const auto& [arguments, message] : cases) {
+        const auto [exitCode, output] = tvk(QString::fromUtf8(arguments));
+        EXPECT_EQ(exitCode, 2) << arguments;
+        EXPECT_EQ(output.substr(0, output.find('\n')), std::string("tvk: ") + message) << arguments;
+        EXPECT_TRUE(QDir(m_folder.path()).isEmpty()) << arguments;
+    }
 }
