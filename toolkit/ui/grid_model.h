@@ -6,6 +6,7 @@
 
 #include <QAbstractTableModel>
 #include <QColor>
+#include <QPointer>
 
 #include <functional>
 #include <vector>
@@ -47,7 +48,7 @@ private:
     void recordChanged(int row);
     [[nodiscard]] bool isNumber(int column) const;
 
-    data::DataSet* m_set = nullptr;
+    QPointer<data::DataSet> m_set; ///< a screen's sets go before its widgets
     std::vector<GridColumn*> m_columns;
     std::vector<int> m_fields; ///< place of each column's field in the set, -1 where it has none
     CellColour m_cellColour;
