@@ -96,34 +96,16 @@ TEST_F(Apply, SendsNothingForWhatCameBackToItsLoadedState) {
     EXPECT_EQ(copy.state(), data::State::Browse);
 }
 
-TEST_F(Apply, WritesOnlyTheFieldsThatDiffer) {
-    change(0, u"v", 11);
-    database().run(u"UPDATE t SET s='lain' WHERE a=1 AND b=1"_s);
-    copy.applyUpdates();
-    EXPECT_EQ(stored().first(), u"1\t1\t11\tlain");
-}
-
-TEST_F(Apply, FindsARowByTheKeyItWasLoadedWith) {
+TEST_F(Apply, FindsARowByTheKeyItWasLoadedWithAndWritesOnlyWhatDiffers) {
     change(0, u"b", 7);
     change(0, u"s", u"pindah"_s);
     change(1, u"b", 8);
     removeAt(1);
     add(copy, {1, 1, 5, u"baru"_s});
+    database().run(u"UPDATE t SET v=12 WHERE a=1 AND b=1"_s);
     copy.applyUpdates();
     EXPECT_EQ(stored(),
-              QStringList({u"1\t1\t5\tbaru"_s, u"1\t3\t30\ttiga"_s, u"1\t7\t10\tpindah"_s, u"2\t1\t40\tempat"_s}));
-}
-
-TEST_F(Apply, LetsRowsExchangeTheirKeys) {
-    change(0, u"b", 2);
-    change(1, u"b", 3);
-    change(2, u"b", 1);
-    copy.applyUpdates();
-    EXPECT_EQ(stored(),
-              QStringList({u"1\t1\t30\ttiga"_s, u"1\t2\t10\tsatu"_s, u"1\t3\t20\tdua"_s, u"2\t1\t40\tempat"_s}));
-    change(0, u"v", 11);
-    copy.applyUpdates();
-    EXPECT_EQ(stored().at(1), u"1\t2\t11\tsatu");
+              QStringList({u"1\t1\t5\tbaru"_s, u"1\t3\t30\ttiga"_s, u"1\t7\t12\tpindah"_s, u"2\t1\t40\tempat"_s}));
 }
 
 TEST_F(Apply, StopsAtTheFirstFailingStatementAndKeepsTheRestPending) {
@@ -159,71 +141,40 @@ TEST_F(Apply, RefusesANumberThatItsColumnWouldClip) {
     EXPECT_EQ(stored().size(), 4);
 }
 
-TEST_F(Apply, LetsTheServerCutATextToItsColumn) {
-    change(0, u"s", QString(1200, u'y'));
-    add(copy, {5, 5, 0, QString(1200, u'z')});
-    copy.applyUpdates();
-    EXPECT_EQ(stored(u"length(s)"_s), QStringList({u"1000"_s, u"3"_s, u"4"_s, u"5"_s, u"1000"_s}));
-}
-
-TEST_F(Apply, CarriesEveryTextAndNumberUnchanged) {
-    const unsigned seed = std::random_device{}();
-    SCOPED_TRACE("seed " + std::to_string(seed));
-    std::mt19937 random(seed);
-    const QString signs = u"'\"\\`%_;:?#-/*\n\r\t\0 aZ0é€"_s + QString::fromUtf8("\xF0\x9F\x98\x80");
-    const auto randomText = [&] {
-        QString text;
-        for (int i = int(random() % 12); i > 0; --i)
-            text += signs[qsizetype(random() % size_t(signs.size() - 2))];
-        return text + (random() % 2 ? signs.right(2) : QString());
-    };
-    const auto randomReal = [&] { return std::ldexp(double(random()) - 2e9, int(random() % 200) - 100); };
-    for (int b = 10; b < 400; ++b)
-        add(copy, {1, b, random() % 5 ? QVariant(randomReal()) : QVariant(0), randomText()});
-    copy.applyUpdates();
-    const std::string inserted = sortedListing();
-    copy.reopen();
-    EXPECT_TRUE(sortedListing() == inserted);
-    for (int row = 0; row < copy.recordCount(); ++row) {
-        change(row, u"s", random() % 7 ? QVariant(randomText()) : QVariant());
-        change(row, u"v", random() % 7 ? QVariant(randomReal()) : QVariant());
-    }
-    copy.applyUpdates();
-    const std::string changed = sortedListing();
-    EXPECT_TRUE(changed != inserted);
-    copy.reopen();
-    EXPECT_TRUE(sortedListing() == changed);
-}
-
 TEST_F(Apply, GivesTheServerWhatTheCopyShowsAfterRandomChanges) {
     const unsigned seed = std::random_device{}();
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
-    copy.setOrder({u"a"_s, u"b"_s});
+    const QString signs = u"'\"\\`%_;:?#-/*\n\r\t\0 aZ0é€"_s;
+    const auto text = [&] {
+        QString made;
+        for (int i = int(random() % 12); i > 0; --i)
+            made += signs[qsizetype(random() % size_t(signs.size()))];
+        return made + (random() % 2 ? u"😀"_s : QString());
+    };
+    const auto real = [&] { return std::ldexp(double(random()) - 2e9, int(random() % 200) - 100); };
     for (int round = 0; round < 6; ++round) {
         for (int i = 0; i < 400; ++i)
-            add(copy, {round + 10, i, int(random() % 1000)});
+            add(copy, {round + 10, i, random() % 5 ? QVariant(real()) : QVariant(0), text()});
         for (int i = 0; i < 150; ++i)
             removeAt(int(random() % size_t(copy.recordCount())));
-        // Every remaining row of the newest group takes the number of another one.
+        // Every remaining row of an older group takes the number of another one, and new values.
         copy.setFilter(u"a"_s, round + 9);
-        std::vector<data::RowId> rows;
         QVariantList numbers;
-        for (copy.first(); !copy.isEof(); copy.next()) {
-            rows.push_back(*copy.bookmark());
+        for (copy.first(); !copy.isEof(); copy.next())
             numbers << copy.value(u"b");
-        }
         std::ranges::shuffle(numbers, random);
-        for (size_t i = 0; i < rows.size(); ++i) {
-            ASSERT_TRUE(copy.goToBookmark(rows[i]));
-            copy.editValue(u"b", numbers[qsizetype(i)]);
-            copy.post();
+        for (int row = 0; row < int(numbers.size()); ++row) {
+            change(row, u"b", numbers[row]);
+            change(row, u"s", random() % 7 ? QVariant(text()) : QVariant());
+            change(row, u"v", random() % 7 ? QVariant(real()) : QVariant());
         }
         copy.clearFilter();
         copy.applyUpdates();
         const std::string shown = sortedListing();
         copy.reopen();
         ASSERT_TRUE(sortedListing() == shown) << "round " << round;
+        copy.setOrder({});
     }
 }
 
@@ -243,7 +194,7 @@ TEST_F(Apply, LeavesToTheServerWhatNobodyFilledIn) {
         << "one row or many, and though the query shows two columns of one name";
 }
 
-TEST_F(Apply, DoesNotFeelAStrictServer) {
+TEST_F(Apply, LetsAStrictServerCutATextToItsColumn) {
     database().run(u"SET GLOBAL sql_mode='STRICT_ALL_TABLES,ONLY_FULL_GROUP_BY,NO_ZERO_DATE'"_s);
     db::Connection fresh;
     fresh.configure(database().mainSettings());
@@ -251,9 +202,12 @@ TEST_F(Apply, DoesNotFeelAStrictServer) {
     data::ClientDataSet other(
         {.query = &rows, .table = u"t"_s, .keys = {u"a"_s, u"b"_s}, .neverWritten = {u"pilih"_s}});
     other.open();
+    other.editValue(u"s", QString(1200, u'y'));
+    other.post();
     add(other, {5, 5, 0, QString(1200, u'z')});
-    EXPECT_NO_THROW(other.applyUpdates());
+    other.applyUpdates();
     database().run(u"SET GLOBAL sql_mode=''"_s);
+    EXPECT_EQ(stored(u"length(s)"_s), QStringList({u"1000"_s, u"3"_s, u"4"_s, u"5"_s, u"1000"_s}));
 }
 
 TEST_F(Apply, QueryFollowsTheRecordOfItsMaster) {
@@ -279,10 +233,10 @@ TEST_F(Apply, QueryGivesEachColumnItsType) {
                          "TIMESTAMP('2024-02-29 10:11:12') AS m, NULL AS n, CAST('0000-00-00' AS date) AS z"_s);
     types.open();
     EXPECT_EQ(listing(types), "[1 1.5 x 2024-02-29 2024-02-29 10:11:12 NULL NULL]");
-    const auto is = [&](QStringView field, data::FieldType type) {
-        return types.fields()[size_t(types.fieldIndex(field))].type == type;
-    };
-    using data::FieldType;
-    EXPECT_TRUE(is(u"i", FieldType::Integer) && is(u"r", FieldType::Real) && is(u"s", FieldType::Text));
-    EXPECT_TRUE(is(u"d", FieldType::Date) && is(u"m", FieldType::Moment));
+    std::vector<data::FieldType> kinds;
+    for (const data::Field& field : types.fields())
+        kinds.push_back(field.type);
+    kinds.resize(5);
+    using enum data::FieldType;
+    EXPECT_EQ(kinds, (std::vector{Integer, Real, Text, Date, Moment}));
 }
