@@ -42,10 +42,7 @@ Tfrm_menu::Tfrm_menu(QString folder, frame::Clock clock, frame::UserSettingReade
         setWorkspace(icon, {});
 }
 
-Tfrm_menu::~Tfrm_menu() {
-    // The grid must not look at the rows while they go.
-    m_ui->dbg_rekap->setDataSet(nullptr);
-}
+Tfrm_menu::~Tfrm_menu() = default;
 
 void Tfrm_menu::setUpRecap() {
     m_ui->dbg_rekap->setColumns(recap::columns(), recap::bands());
@@ -73,6 +70,7 @@ bool Tfrm_menu::FormCreate() {
     try {
         m_ping.emplace();
     } catch (const platform::PingUnavailable& fault) {
+        qCInfo(frame::startLog) << "no echo can be sent:" << fault.what();
         showFault(nullptr, fault);
         return false;
     }
