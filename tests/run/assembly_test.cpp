@@ -6,6 +6,8 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using run::Reading;
@@ -16,18 +18,23 @@ Reading<T> failing() {
 }
 
 run::Employee employee(int id) {
-    return {id, QStringLiteral("P%1").arg(id), QStringLiteral("N%1").arg(id), QStringLiteral("Nama %1").arg(id)};
+    return {id, u"P%1"_s.arg(id), u"N%1"_s.arg(id), u"Nama %1"_s.arg(id)};
+}
+
+run::RulesByComponent rulesOf(const std::map<std::pair<int, int>, const char*>& texts) {
+    run::RulesByComponent rules;
+    for (const auto& [place, text] : texts) {
+        rules.insert(place, {ruleOf(QString::fromUtf8(text))});
+        rules[place].front().grp_id = place.first;
+    }
+    return rules;
 }
 
 /// Two groups, each with one component of its own amount: employees 1 and 2 in group 1, 2 and 3 in group 2.
-SmallCompany twoGroups() {
-    SmallCompany company = smallCompany({QStringLiteral("com=1 uang=100")}, {});
-    company.selections.groups = {2, 1};
-    run::RulesByComponent rules = company.tables.rules.value();
-    run::Rule other = ruleOf(QStringLiteral("com=1 uang=200"));
-    other.grp_id = 2;
-    rules.insert({2, 1}, {other});
-    company.tables.rules = Reading(rules);
+SmallCompany twoGroups(std::vector<int> chosen) {
+    SmallCompany company = smallCompany(u"uang=100"_s);
+    company.selections.groups = std::move(chosen);
+    company.tables.rules = Reading(rulesOf({{{1, 1}, "uang=100"}, {{2, 1}, "uang=200"}}));
     company.tables.memberships = Reading(run::Memberships{{1, 1}, {1, 2}, {2, 2}, {2, 3}});
     company.tables.members[1] = Reading(std::vector{employee(1), employee(2)});
     company.tables.members[2] = Reading(std::vector{employee(2), employee(3)});
@@ -44,39 +51,30 @@ run::EmployeeChoice choice(std::initializer_list<std::pair<int, bool>> items) {
 
 /// "line:employee (rows)" of every line.
 std::string linesOf(const SmallCompany& company, run::Notice expected = run::Notice::None) {
-    run::MemoryLookups lookups(company.selections.period, company.tables);
-    run::Run made;
-    EXPECT_EQ(proses(made, company.selections, lookups), expected);
     QStringList lines;
-    for (const run::Line& line : made.lines)
-        lines << QStringLiteral("%1:%2 (%3)")
-                     .arg(line.no_urut)
-                     .arg(line.pin, describe(line.rows).join(QStringLiteral("; ")));
-    return lines.join(QStringLiteral(", ")).toStdString();
+    for (const run::Line& line : company.computed(expected).lines)
+        lines << u"%1:%2 (%3)"_s.arg(line.no_urut).arg(line.pin, describe(line.rows));
+    return lines.join(u", "_s).toStdString();
 }
 
-run::LoanPayment loan(int com_id, double amount) {
-    return {com_id, QStringLiteral("L%1").arg(com_id), QStringLiteral("Pinjaman %1").arg(com_id), amount};
-}
-
-std::string rowsWithLoans(const QStringList& rules, const std::vector<run::LoanPayment>& payments) {
-    SmallCompany company = smallCompany(rules, {});
+SmallCompany withLoans(SmallCompany company, int employee, const std::vector<std::pair<int, double>>& payments) {
+    run::LoansByEmployee loans;
+    for (const auto& [com_id, amount] : payments)
+        loans[employee].push_back({com_id, u"L%1"_s.arg(com_id), u"Pinjaman %1"_s.arg(com_id), amount});
     company.selections.loans = run::LoanTest::Period;
-    company.tables.loans = Reading(run::LoansByEmployee{{7, payments}});
-    return linesOf(company);
+    company.tables.loans = Reading(loans);
+    return company;
 }
 
 } // namespace
 
 TEST(Assembly, WalksGroupsInOrderOfTickingWithOneLineForEachGroupOfAnEmployee) {
-    EXPECT_EQ(linesOf(twoGroups()), "1:P2 (1: 200 x 1 (+) [* 200]), 2:P3 (1: 200 x 1 (+) [* 200]), "
-                                    "3:P1 (1: 100 x 1 (+) [* 100]), 4:P2 (1: 100 x 1 (+) [* 100])");
+    EXPECT_EQ(linesOf(twoGroups({2, 1})), "1:P2 (1: 200 x 1 (+) [* 200]), 2:P3 (1: 200 x 1 (+) [* 200]), "
+                                          "3:P1 (1: 100 x 1 (+) [* 100]), 4:P2 (1: 100 x 1 (+) [* 100])");
 }
 
 TEST(Assembly, TakesComponentsByNumberNotByTypeAndSkipsThoseWithoutARule) {
-    SmallCompany company = smallCompany({QStringLiteral("com=1 param uang=10"),
-                                         QStringLiteral("com=2 typex=1 param uang=3"), QStringLiteral("com=3 sum=k2")},
-                                        {});
+    SmallCompany company = smallCompany(u"param uang=10; com=2 typex=1 param uang=3; com=3 sum=k2"_s);
     company.selections.components = {{.com_id = 3, .no_urut = 5},
                                      {.com_id = 9, .no_urut = 3},
                                      {.com_id = 2, .no_urut = 4},
@@ -85,22 +83,17 @@ TEST(Assembly, TakesComponentsByNumberNotByTypeAndSkipsThoseWithoutARule) {
 }
 
 TEST(Assembly, AComponentChosenTwiceAddsOverThePeriodButNotPerDay) {
-    SmallCompany company = smallCompany({QStringLiteral("com=1 uang=10"), QStringLiteral("com=2 hitung=1 uang=10")},
-                                        QStringLiteral("f13=0,0"));
+    SmallCompany company = smallCompany(u"uang=10; com=2 hitung=1 uang=10"_s, u"f13=0,0"_s);
     company.selections.components.push_back({.com_id = 1, .no_urut = 3});
     company.selections.components.push_back({.com_id = 2, .no_urut = 4});
     EXPECT_EQ(linesOf(company), "1:0007 (1: 20 x 2 (+) [* 10]; 2: 20 x 2 (+) [* 10])");
 }
 
 TEST(Assembly, ForgetsTheValuesOfOneEmployeeBeforeTheNext) {
-    SmallCompany company = twoGroups();
-    company.selections.groups = {1};
+    SmallCompany company = twoGroups({1});
     company.selections.components = {{.com_id = 1, .no_urut = 1}, {.com_id = 2, .no_urut = 2}};
-    run::RulesByComponent rules;
-    rules.insert({1, 1}, {ruleOf(QStringLiteral("com=1 param if=f13 min=1 uang=100"))});
-    rules.insert({1, 2}, {ruleOf(QStringLiteral("com=2 sum=k1"))});
-    company.tables.rules = Reading(rules);
-    company.tables.referenceNames = Reading(QHash<int, QString>{{1, QStringLiteral("Komponen 1")}});
+    company.tables.rules = Reading(rulesOf({{{1, 1}, "param if=f13 min=1 uang=100"}, {{1, 2}, "com=2 sum=k1"}}));
+    company.tables.referenceNames = Reading(QHash<int, QString>{{1, u"Komponen 1"_s}});
     company.tables.places = {{1, 0}, {2, 1}};
     company.tables.figures[{13, run::FigureRead::Grain::Period, run::FigureRead::Form::AsSet}] =
         Reading(run::FigureValues{5, 0});
@@ -109,51 +102,45 @@ TEST(Assembly, ForgetsTheValuesOfOneEmployeeBeforeTheNext) {
 }
 
 TEST(Assembly, GuardsLoseOnlyWhatHangsOnTheFault) {
-    SmallCompany members = twoGroups();
+    const std::string both = "1:P1 (1: 100 x 1 (+) [* 100]), 2:P2 (1: 100 x 1 (+) [* 100])";
+    SmallCompany members = twoGroups({2, 1});
     members.tables.members[2] = failing<std::vector<run::Employee>>();
-    EXPECT_EQ(linesOf(members), "1:P1 (1: 100 x 1 (+) [* 100]), 2:P2 (1: 100 x 1 (+) [* 100])") << "members of a group";
+    EXPECT_EQ(linesOf(members), both) << "members of a group";
 
-    SmallCompany rules = twoGroups();
-    rules.selections.groups = {1};
-    rules.selections.loans = run::LoanTest::Month;
+    SmallCompany rules = withLoans(twoGroups({1}), 2, {{4, 50}});
     rules.tables.rules = failing<run::RulesByComponent>();
-    rules.tables.loans = Reading(run::LoansByEmployee{{2, {loan(4, 50)}}});
     EXPECT_EQ(linesOf(rules), "1:P1 (), 2:P2 (4: 50 x 1 (-) [ x Angsuran])") << "rules";
 
-    SmallCompany loans = twoGroups();
-    loans.selections.groups = {1};
-    loans.selections.loans = run::LoanTest::Period;
+    SmallCompany loans = withLoans(twoGroups({1}), 2, {});
     loans.tables.loans = failing<run::LoansByEmployee>();
-    EXPECT_EQ(linesOf(loans), "1:P1 (1: 100 x 1 (+) [* 100]), 2:P2 (1: 100 x 1 (+) [* 100])") << "loans";
+    EXPECT_EQ(linesOf(loans), both) << "loans";
 
-    SmallCompany daily = smallCompany(
-        {QStringLiteral("com=1 uang=1"), QStringLiteral("com=2 hitung=1 uang=5e14"), QStringLiteral("com=3 uang=1")},
-        {});
-    daily.selections.loans = run::LoanTest::Period;
-    daily.tables.loans = Reading(run::LoansByEmployee{{7, {loan(4, 50)}}});
-    EXPECT_EQ(linesOf(daily), "1:0007 (1: 1 x 1 (+) [* 1]; 4: 50 x 1 (-) [ x Angsuran])") << "sum of days";
+    const SmallCompany daily = smallCompany(u"uang=1; com=2 hitung=1 uang=5e14; com=3 uang=1"_s);
+    EXPECT_EQ(linesOf(withLoans(daily, 7, {{4, 50}})), "1:0007 (1: 1 x 1 (+) [* 1]; 4: 50 x 1 (-) [ x Angsuran])")
+        << "sum of days";
 }
 
 TEST(Loans, CountPerEmployeeFromTheLastNewRowOn) {
-    const QStringList none{QStringLiteral("com=9 uang=1")};
-    const std::string rule = "1:0007 (9: 1 x 1 (+) [* 1]";
-    EXPECT_EQ(rowsWithLoans(none, {loan(4, 100), loan(4, 20.5)}), rule + "; 4: 120.5 x 2 (-) [ x Angsuran])");
-    EXPECT_EQ(rowsWithLoans(none, {loan(4, 1), loan(5, 2), loan(4, 4), loan(5, 8)}),
-              rule + "; 4: 5 x 2 (-) [ x Angsuran]; 5: 10 x 3 (-) [ x Angsuran])");
-    EXPECT_EQ(rowsWithLoans(none, {loan(0, 100), loan(4, 7)}), rule + "; 4: 7 x 1 (-) [ x Angsuran])");
-    EXPECT_EQ(rowsWithLoans({QStringLiteral("com=4 uang=30 typex=1"), QStringLiteral("com=4 uang=30")},
-                            {loan(4, 100), loan(4, 20)}),
-              "1:0007 (4: 180 x 2 (-) [* 30])");
-    EXPECT_EQ(rowsWithLoans({QStringLiteral("com=4 uang=30")}, {loan(4, 100)}), "1:0007 (4: 130 x 1 (+) [* 30])");
+    const struct {
+        const char* rules;
+        std::vector<std::pair<int, double>> payments;
+        const char* rows;
+    } cases[] = {
+        {"com=9 uang=1", {{4, 100}, {4, 20.5}}, "9: 1 x 1 (+) [* 1]; 4: 120.5 x 2 (-) [ x Angsuran]"},
+        {"com=9 uang=1",
+         {{4, 1}, {5, 2}, {4, 4}, {5, 8}},
+         "9: 1 x 1 (+) [* 1]; 4: 5 x 2 (-) [ x Angsuran]; 5: 10 x 3 (-) [ x Angsuran]"},
+        {"com=9 uang=1", {{0, 100}, {4, 7}}, "9: 1 x 1 (+) [* 1]; 4: 7 x 1 (-) [ x Angsuran]"},
+        {"com=4 uang=30 typex=1; com=4 uang=30", {{4, 100}, {4, 20}}, "4: 180 x 2 (-) [* 30]"},
+        {"com=4 uang=30", {{4, 100}}, "4: 130 x 1 (+) [* 30]"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(linesOf(withLoans(smallCompany(QString::fromUtf8(c.rules)), 7, c.payments)),
+                  std::string("1:0007 (") + c.rows + ')');
 }
 
 TEST(Loans, AloneLeaveNothingOfTheEmployeeInTheRun) {
-    SmallCompany company = smallCompany({QStringLiteral("com=9 if=f13 min=1 uang=1")}, QStringLiteral("f13=0"));
-    company.selections.loans = run::LoanTest::Period;
-    company.tables.loans = Reading(run::LoansByEmployee{{7, {loan(4, 50)}}});
-    run::MemoryLookups lookups(company.selections.period, company.tables);
-    run::Run made;
-    ASSERT_EQ(proses(made, company.selections, lookups), run::Notice::None);
+    run::Run made = withLoans(smallCompany(u"com=9 if=f13 min=1 uang=1"_s, u"f13=0"_s), 7, {{4, 50}}).computed();
     ASSERT_EQ(made.lines.at(0).rows.size(), 2U);
     hitung(made, 0);
     EXPECT_TRUE(made.lines.empty());
@@ -162,31 +149,24 @@ TEST(Loans, AloneLeaveNothingOfTheEmployeeInTheRun) {
     EXPECT_EQ(made.nomor_baris_terakhir, 1);
 }
 
-TEST(TickedEmployees, AreComputedOncePerTickWithTheirFirstGroup) {
-    SmallCompany company = twoGroups();
+TEST(TickedEmployees, AreComputedOncePerTickWithTheirFirstGroupUpToTwoHundred) {
+    SmallCompany company = twoGroups({2, 1});
     company.selections.employees = choice({{2, true}, {3, false}, {1, true}, {2, true}, {99, true}});
     EXPECT_EQ(linesOf(company), "1:P2 (1: 200 x 1 (+) [* 200]), 2:P1 (1: 100 x 1 (+) [* 100]), "
                                 "3:P2 (1: 200 x 1 (+) [* 200])");
-}
-
-TEST(TickedEmployees, AreToldOfAnEmptyListAndOfMoreThan200Ticks) {
-    SmallCompany company = twoGroups();
     company.selections.employees = choice({});
     EXPECT_EQ(linesOf(company, run::Notice::NoEmployees), "");
     company.selections.employees = choice({{2, false}});
+    auto& items = company.selections.employees->clb_emp_id;
     EXPECT_EQ(linesOf(company), "");
-
-    run::EmployeeChoice many = choice({{1, false}});
-    many.clb_emp_id.insert(many.clb_emp_id.end(), 200, {99, true});
-    company.selections.employees = many;
+    items.insert(items.end(), 200, {99, true});
     EXPECT_EQ(linesOf(company), "") << "200 ticks";
-    many.clb_emp_id.push_back({1, true});
-    company.selections.employees = many;
+    items.push_back({1, true});
     EXPECT_EQ(linesOf(company, run::Notice::MoreThan200Employees), "1:P1 (1: 100 x 1 (+) [* 100])") << "201 ticks";
 }
 
 TEST(Assembly, ReplacesTheFormerLinesAndNumbersOnFromWhatTheirDeletionLeft) {
-    const SmallCompany company = twoGroups();
+    const SmallCompany company = twoGroups({2, 1});
     run::MemoryLookups lookups(company.selections.period, company.tables);
     run::Run made;
     std::vector<int> told;

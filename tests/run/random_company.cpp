@@ -2,178 +2,110 @@
 
 #include <QStringList>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int employeeCount = 5;
 constexpr int groupCount = 3;
 constexpr int componentCount = 6;
-constexpr int days = 6; ///< of attendance, around the run's period
+
+// Table, number of rows, then each column with the choices that its values are drawn from, parted by bars: a text of
+// SQL, a number between two (divided by a third), one of the kinds below, "no" for the number of the row, or "=" and an
+// earlier column. A group may be gone while its members and rules are still there, and so may a component.
+constexpr auto mainTables = R"(
+emp, 5, emp_id_auto no, pin 'A 7'|'7'|'B 07'|null|'12', nik 'N1'|null, first_name 'Ayu'|null, last_name 'Sari'|null, \
+  cab_id_auto 1|1|1|2, emp_status 0|0|0|0|1
+z_pay_grp, 3|3|3|2, grp_id no, grp_name 'G'
+z_pay_grp_emp, 9, grp_id 1..3, emp_id_auto 1..5
+z_pay_com, 6|6|5, com_id no, com_kode no, com_name 'Pokok'|'POKOK'|'Makan'|'Lembur'|'lembur'|''|null, \
+  type 0|0|1|2|null, no_urut 0..19, param -1|-1|0|1
+z_pay_grp_com, 30, grp_id 1..3, com_id 1..6, no_urut_ref no, use_if_sum -1|-1|0|1|null, \
+  min_if 0|0|0|1|2.5|-2|0.1|null, use_kode_if source, id_kode_if asked, max_if 0|0|0|1|4|7.35|-3|1e9|null, \
+  use_sum -1|-1|-1|-1|0|0|1|null, use_kode_sum source, id_kode_sum =id_kode_if|asked, \
+  operator_sum '*'|'*'|'*'|'/'|'-'|'+'|'T'|'T'|''|'**'|null, \
+  konstanta_sum 0|1|1.5|2|0.1|0.333333333333333333|1e-05|1e15|-2|null, \
+  operator_sum2 '*'|'*'|'*'|'*'|'/'|'-'|'+'|'T'|''|null, nilai_rp money, hitung 0|0|1|2|null, jenis 0|1|2|3|null
+z_pay_money, 12, grp_id 1..3, com_id 1..6, emp_id_auto 1..5, nilai_rp money
+shift_result, 40, emp_id_auto 1..5, shift_date day, valid 0|0|0|1, late amount, early amount, total_ot amount, \
+  duration amount, holiday flag, shift_ot flag, break1 amount, max_break amount, break2 amount, max_break2 amount
+date_temp, 30, emp_id_auto 1..5, date_temp day, absent_id 1..9, duration amount, holiday flag
+ex_absent, 15, emp_id_auto 1..5, tgl_awal day, absent_id 10..12, sum_result amount
+free_ot_result_m, 10, emp_id_auto 1..5, free_date day, duration amount, duration_ot amount
+free_ot, 0..3, begin_time -1|no, shift_ot -1|0|null
+holiday, 0..4, holiday_date day
+sum_report, 10, sum_id 1|2|3|4|13|14|15|16, sum_as 1|2|3|null
+zx_jns_krd, 3, krd_id no, com_id 1|2|5|0|null|99
+zx_kredit_m, 4, id_kredit no, krd_id 1..4
+zx_bayar_kredit, 14, id_bayar no, tgl_bayar day|day|day|day|day|'2024-03-01', id_kredit 1..5, \
+  debet 10000|2500|0|333.25|null, emp_id_auto 1..5)";
+
+constexpr auto settingTable =
+    "global_setting, 4, param_id 'Hadir100_hadir'|'Hadir100_izin'|'Hadir100_sakit'|'Hadir100_cuti'|'Hadir100_libur', "
+    "param_value '-1'|'0'|'1'|'ya'|''|null";
+
+const QHash<QString, QString> kinds{
+    {u"source"_s, u"0|0|0|0|0|0|1|1|-1|2|null"_s},
+    {u"asked"_s, u"1..6|figure|figure"_s},
+    {u"figure"_s, u"0..29|4|7|17|50|null"_s},
+    {u"money"_s, u"0|50000|75000|50000|20000|1000|1500.5|1501.5|0.00005|0.00015|-300|0.33333|1e15|9e14|2147483648.25|"
+                 "20000|null"_s},
+    {u"amount"_s, u"none|some|some|some"_s},
+    {u"none"_s, u"0|0|-1|null"_s},
+    {u"flag"_s, u"0|0|-1|null"_s},
+    {u"day"_s, u"'2024-02-01'|'2024-02-02'|'2024-02-03'|'2024-02-04'|'2024-02-05'|'2024-02-06'"_s},
+};
 
 } // namespace
 
-RandomCompany::RandomCompany(unsigned seed) : m_random(seed), m_eighths(seed % 2 == 0) {}
-
-int RandomCompany::below(int limit) {
-    return int(m_random() % unsigned(limit));
+RandomCompany::RandomCompany(unsigned seed) : m_random(seed), m_kinds(kinds) {
+    // Amounts in eighths, whose sums meet ties, or with two decimals; mixed, the order of a sum would matter.
+    m_kinds[u"some"_s] = seed % 2 == 0 ? u"0..79/8"_s : u"0..1999/100"_s;
 }
 
-bool RandomCompany::once(int in) {
-    return below(in) == 0;
+QString RandomCompany::draw(const QString& choices) {
+    const QStringList all = choices.split(u'|');
+    const QString& one = all[below(int(all.size()))];
+    if (m_kinds.contains(one))
+        return draw(m_kinds[one]);
+    const qsizetype dots = one.indexOf(u".."_s);
+    if (dots < 0)
+        return one;
+    const int first = one.first(dots).toInt();
+    const int last = one.sliced(dots + 2).section(u'/', 0, 0).toInt();
+    const int unit = one.contains(u'/') ? one.section(u'/', 1).toInt() : 1;
+    return QString::number(double(first + below(last - first + 1)) / unit);
 }
 
-QString RandomCompany::pick(std::initializer_list<const char*> values) {
-    return QString::fromLatin1(values.begin()[below(int(values.size()))]);
-}
-
-template <typename Row>
-QString RandomCompany::insert(const char* into, int rows, Row row) {
-    QStringList made;
-    for (int i = 0; i < rows; ++i)
-        made << u'(' + QStringList(row(i)).join(u',') + u')';
-    return made.isEmpty()
+QString RandomCompany::rowsOf(const QString& table) {
+    const QStringList parts = table.simplified().split(u", "_s);
+    QStringList names, rows;
+    for (const QString& column : parts.sliced(2))
+        names << column.section(u' ', 0, 0);
+    for (int row = 1, count = draw(parts[1]).toInt(); row <= count; ++row) {
+        QStringList values;
+        for (const QString& column : parts.sliced(2)) {
+            const QString value = draw(column.section(u' ', 1));
+            values << (value == u"no"           ? QString::number(row)
+                       : value.startsWith(u'=') ? values[names.indexOf(value.sliced(1))]
+                                                : value);
+        }
+        rows << u'(' + values.join(u',') + u')';
+    }
+    return rows.isEmpty()
                ? QString()
-               : QStringLiteral("insert ignore into %1 values %2;\n").arg(QLatin1String(into), made.join(u','));
-}
-
-QString RandomCompany::day() {
-    return QStringLiteral("'2024-02-%1'").arg(1 + below(days), 2, 10, QChar(u'0'));
-}
-
-QString RandomCompany::amount() {
-    if (once(4))
-        return pick({"0", "0", "-1", "null"});
-    return m_eighths ? QString::number(below(80) / 8.0) : QString::number(below(2000) / 100.0);
-}
-
-QString RandomCompany::money() {
-    return pick({"0", "50000", "75000", "50000", "20000", "1000", "1500.5", "1501.5", "0.00005", "0.00015", "-300",
-                 "0.33333", "1e15", "9e14", "2147483648.25", "20000", "null"});
-}
-
-QString RandomCompany::source() {
-    return pick({"0", "0", "0", "0", "0", "0", "1", "1", "-1", "2", "null"});
-}
-
-QString RandomCompany::figureOrComponent() {
-    return once(3) ? QString::number(1 + below(componentCount))
-                   : pick({"0",  "1",  "2",  "3",  "4",  "4",  "5",  "6",  "7",  "8",   "9",  "10",
-                           "11", "12", "13", "14", "15", "16", "17", "17", "18", "19",  "20", "21",
-                           "22", "23", "24", "25", "26", "27", "28", "29", "50", "null"});
-}
-
-QString RandomCompany::people() {
-    QString rows = insert(
-        "emp (emp_id_auto, pin, nik, first_name, last_name, cab_id_auto, emp_status)", employeeCount, [&](int i) {
-            return QStringList{QString::number(i + 1),         pick({"'A 7'", "'7'", "'B 07'", "null", "'12'"}),
-                               pick({"'N1'", "null"}),         pick({"'Ayu'", "null"}),
-                               pick({"'Sari'", "null"}),       pick({"1", "1", "1", "2"}),
-                               pick({"0", "0", "0", "0", "1"})};
-        });
-    // A group may be gone while its members and rules are still there.
-    rows += insert("z_pay_grp (grp_id, grp_name)", groupCount - (once(4) ? 1 : 0), [](int i) {
-        return QStringList{QString::number(i + 1), QStringLiteral("'G'")};
-    });
-    return rows + insert("z_pay_grp_emp (grp_id, emp_id_auto)", employeeCount + 2, [&](int i) {
-               return QStringList{QString::number(1 + below(groupCount)), QString::number(1 + i % employeeCount)};
-           });
-}
-
-QString RandomCompany::components() {
-    return insert("z_pay_com (com_id, com_kode, com_name, type, no_urut, param)", componentCount - (once(3) ? 1 : 0),
-                  [&](int i) {
-                      return QStringList{QString::number(i + 1),
-                                         QStringLiteral("'K%1'").arg(i),
-                                         pick({"'Pokok'", "'POKOK'", "'Makan'", "'Lembur'", "'lembur'", "''", "null"}),
-                                         pick({"0", "0", "1", "2", "null"}),
-                                         QString::number(below(20)),
-                                         pick({"-1", "-1", "0", "1"})};
-                  });
-}
-
-QString RandomCompany::rules() {
-    const char* const into = "z_pay_grp_com (grp_id, com_id, no_urut_ref, use_if_sum, min_if, use_kode_if, id_kode_if, "
-                             "max_if, use_sum, use_kode_sum, id_kode_sum, operator_sum, konstanta_sum, operator_sum2, "
-                             "nilai_rp, hitung, jenis)";
-    QString rows = insert(into, 30, [&](int i) {
-        const QString condition = figureOrComponent();
-        return QStringList{QString::number(1 + below(groupCount)),
-                           QString::number(1 + below(componentCount)),
-                           QString::number(i),
-                           pick({"-1", "-1", "0", "1", "null"}),
-                           pick({"0", "0", "0", "1", "2.5", "-2", "0.1", "null"}),
-                           source(),
-                           condition,
-                           pick({"0", "0", "0", "1", "4", "7.35", "-3", "1e9", "null"}),
-                           pick({"-1", "-1", "-1", "-1", "0", "0", "1", "null"}),
-                           source(),
-                           once(2) ? condition : figureOrComponent(),
-                           pick({"'*'", "'*'", "'*'", "'/'", "'-'", "'+'", "'T'", "'T'", "''", "'**'", "null"}),
-                           pick({"0", "1", "1.5", "2", "0.1", "0.333333333333333333", "1e-05", "1e15", "-2", "null"}),
-                           pick({"'*'", "'*'", "'*'", "'*'", "'/'", "'-'", "'+'", "'T'", "''", "null"}),
-                           money(),
-                           pick({"0", "0", "1", "2", "null"}),
-                           pick({"0", "1", "2", "3", "null"})};
-    });
-    return rows + insert("z_pay_money (grp_id, com_id, emp_id_auto, nilai_rp)", 12, [&](int) {
-               return QStringList{QString::number(1 + below(groupCount)), QString::number(1 + below(componentCount)),
-                                  QString::number(1 + below(employeeCount)), money()};
-           });
-}
-
-QString RandomCompany::attendance() {
-    const auto employee = [&] { return QString::number(1 + below(employeeCount)); };
-    const auto holiday = [&] { return pick({"0", "0", "-1", "null"}); };
-    QString rows = insert("shift_result (emp_id_auto, shift_date, valid, late, early, total_ot, duration, holiday, "
-                          "shift_ot, break1, max_break, break2, max_break2)",
-                          40, [&](int) {
-                              return QStringList{employee(), day(),     pick({"0", "0", "0", "1"}),
-                                                 amount(),   amount(),  amount(),
-                                                 amount(),   holiday(), holiday(),
-                                                 amount(),   amount(),  amount(),
-                                                 amount()};
-                          });
-    rows += insert("date_temp (emp_id_auto, date_temp, absent_id, duration, holiday)", 30, [&](int) {
-        return QStringList{employee(), day(), QString::number(1 + below(9)), amount(), holiday()};
-    });
-    rows += insert("ex_absent (emp_id_auto, tgl_awal, absent_id, sum_result)", 15, [&](int) {
-        return QStringList{employee(), day(), QString::number(10 + below(3)), amount()};
-    });
-    rows += insert("free_ot_result_m (emp_id_auto, free_date, duration, duration_ot)", 10, [&](int) {
-        return QStringList{employee(), day(), amount(), amount()};
-    });
-    rows += insert("free_ot (begin_time, shift_ot)", below(4), [&](int i) {
-        return QStringList{QString::number(i - 1), pick({"-1", "0", "null"})};
-    });
-    rows += insert("holiday (holiday_date)", below(5), [&](int) { return QStringList{day()}; });
-    return rows + insert("sum_report (sum_id, sum_as)", 10, [&](int) {
-               return QStringList{pick({"1", "2", "3", "4", "13", "14", "15", "16"}), pick({"1", "2", "3", "null"})};
-           });
-}
-
-QString RandomCompany::loans() {
-    QString rows = insert("zx_jns_krd (krd_id, com_id)", 3, [&](int i) {
-        return QStringList{QString::number(i + 1), pick({"1", "2", "5", "0", "null", "99"})};
-    });
-    rows += insert("zx_kredit_m (id_kredit, krd_id)", 4, [&](int i) {
-        return QStringList{QString::number(i + 1), QString::number(1 + below(4))};
-    });
-    return rows + insert("zx_bayar_kredit (id_bayar, tgl_bayar, id_kredit, debet, emp_id_auto)", 14, [&](int i) {
-               return QStringList{QString::number(i + 1), once(6) ? QStringLiteral("'2024-03-01'") : day(),
-                                  QString::number(1 + below(5)), pick({"10000", "2500", "0", "333.25", "null"}),
-                                  QString::number(1 + below(employeeCount))};
-           });
+               : u"insert ignore into %1 (%2) values %3;\n"_s.arg(parts[0], names.join(u','), rows.join(u','));
 }
 
 QString RandomCompany::mainRows() {
-    return people() + components() + rules() + attendance() + loans();
+    QString statements;
+    for (const QString& table : QString::fromUtf8(mainTables).remove(u"\\\n"_s).split(u'\n', Qt::SkipEmptyParts))
+        statements += rowsOf(table);
+    return statements;
 }
 
 QString RandomCompany::settingRows() {
-    return insert("global_setting (param_id, param_value)", 4, [&](int) {
-        return QStringList{
-            pick({"'Hadir100_hadir'", "'Hadir100_izin'", "'Hadir100_sakit'", "'Hadir100_cuti'", "'Hadir100_libur'"}),
-            pick({"'-1'", "'0'", "'1'", "'ya'", "''", "null"})};
-    });
+    return rowsOf(QString::fromUtf8(settingTable));
 }
 
 run::EmployeeChoice RandomCompany::ticks() {
@@ -200,17 +132,17 @@ run::Selections RandomCompany::selections() {
         chosen.employees = ticks();
     chosen.loans = run::LoanTest(below(3));
     chosen.loanMonth = QDate(2024, once(3) ? 3 : 2, 28);
-    chosen.session_cab_id = pick({"0", "0", "0", "1"});
+    chosen.session_cab_id = draw(u"0|0|0|1"_s);
     return chosen;
 }
 
 double RandomCompany::round_value() {
-    return pick({"0", "0", "100", "1000", "2.5", "-5"}).toDouble();
+    return draw(u"0|0|100|1000|2.5|-5"_s).toDouble();
 }
 
 QString RandomCompany::missingTable() {
     if (!once(12))
         return {};
-    return pick({"shift_result", "date_temp", "ex_absent", "holiday", "sum_report", "free_ot", "free_ot_result_m",
-                 "z_pay_money", "z_pay_com", "z_pay_grp", "z_pay_grp_com", "z_pay_grp_emp", "zx_kredit_m", "emp"});
+    return draw(u"shift_result|date_temp|ex_absent|holiday|sum_report|free_ot|free_ot_result_m|z_pay_money|z_pay_com|"
+                "z_pay_grp|z_pay_grp_com|z_pay_grp_emp|zx_kredit_m|emp"_s);
 }

@@ -2,6 +2,7 @@
 
 #include "run/assembly.h"
 
+#include <QHash>
 #include <QString>
 
 #include <random>
@@ -21,23 +22,12 @@ public:
     [[nodiscard]] QString missingTable();
 
 private:
-    [[nodiscard]] int below(int limit);
-    [[nodiscard]] bool once(int in);
-    [[nodiscard]] QString pick(std::initializer_list<const char*> values);
-    template <typename Row>
-    [[nodiscard]] QString insert(const char* into, int rows, Row row);
-    [[nodiscard]] QString day();
-    [[nodiscard]] QString amount();
-    [[nodiscard]] QString money();
-    [[nodiscard]] QString source();
-    [[nodiscard]] QString figureOrComponent();
-    [[nodiscard]] QString people();
-    [[nodiscard]] QString components();
-    [[nodiscard]] QString rules();
-    [[nodiscard]] QString attendance();
-    [[nodiscard]] QString loans();
+    [[nodiscard]] int below(int limit) { return int(m_random() % unsigned(limit)); }
+    [[nodiscard]] bool once(int in) { return below(in) == 0; }
+    [[nodiscard]] QString draw(const QString& choices);
+    [[nodiscard]] QString rowsOf(const QString& table);
     [[nodiscard]] run::EmployeeChoice ticks();
 
     std::mt19937 m_random;
-    bool m_eighths; ///< amounts in eighths, whose sums meet ties, else with two decimals; mixed, the order would matter
+    QHash<QString, QString> m_kinds; ///< choices by the name that stands for them
 };

@@ -10,22 +10,17 @@ using run::Line;
 using run::Row;
 using run::Run;
 
-/// One row, of type 0 for an earning.
-struct Amount {
-    int type = 0;
-    double subtot_payroll = 0;
-};
-
-Run runOf(const std::vector<std::vector<Amount>>& lines) {
+/// Amounts of rows parted by blanks, lines by commas; "1:300" is of type 1, an amount alone of type 0, an earning.
+Run runOf(const char* lines) {
     Run made;
-    for (const auto& amounts : lines) {
+    for (const QString& amounts : QString::fromUtf8(lines).split(u',')) {
         Line& line = made.lines.emplace_back();
         line.no_urut = ++made.nomor_rincian_terakhir;
-        for (const Amount& amount : amounts) {
+        for (const QString& amount : amounts.split(u' ', Qt::SkipEmptyParts)) {
             Row& row = line.rows.emplace_back();
             row.no_urut_ref = ++made.nomor_baris_terakhir;
-            row.type = amount.type;
-            row.subtot_payroll = amount.subtot_payroll;
+            row.type = amount.contains(u':') ? amount.section(u':', 0, 0).toInt() : 0;
+            row.subtot_payroll = amount.section(u':', -1).toDouble();
         }
     }
     return made;
@@ -49,7 +44,7 @@ std::string describe(const Run& made) {
 
 struct Case {
     const char* name;
-    std::vector<std::vector<Amount>> lines;
+    const char* lines;
     double round_value;
     const char* expected;
 };
@@ -62,57 +57,48 @@ void check(const std::vector<Case>& cases) {
     }
 }
 
-constexpr double wraps = 2147483648.0;
-
 } // namespace
 
 TEST(Totals, RoundEachRowThenTheLine) {
     check({
-        {"down to even, up to the unit",
-         {{{0, 4750300.5}, {0, 250000}, {1, 120000}}},
-         1000,
+        {"down to even, up to the unit", "4750300.5 250000 1:120000", 1000,
          "1=4881000 (1:4750300 2:250000 3:120000), total 4881000"},
-        {"up to even", {{{0, 1501.5}}}, 0, "1=1502 (1:1502), total 1502"},
-        {"four decimals before the whole number",
-         {{{0, 1500.50004}, {0, 1500.50006}}},
-         0,
-         "1=3001 (1:1500 2:1501), total 3001"},
-        {"a multiple stays", {{{0, 3000}}}, 1000, "1=3000 (1:3000), total 3000"},
-        {"unit above the net", {{{0, 3}}}, 500, "1=500 (1:3), total 500"},
-        {"unit of 0", {{{0, 1234}}}, 0, "1=1234 (1:1234), total 1234"},
-        {"negative unit", {{{0, 1234}}}, -500, "1=1234 (1:1234), total 1234"},
-        {"unit on a tie", {{{0, 7}}}, 2.5, "1=8 (1:7), total 8"},
-        {"any type but 0 deducts", {{{0, 100}, {2, 30}, {-1, 20}}}, 0, "1=50 (1:100 2:30 3:20), total 50"},
-        {"no line", {}, 1000, "total 0"},
+        {"up to even", "1501.5", 0, "1=1502 (1:1502), total 1502"},
+        {"four decimals before the whole number", "1500.50004 1500.50006", 0, "1=3001 (1:1500 2:1501), total 3001"},
+        {"a multiple stays", "3000", 1000, "1=3000 (1:3000), total 3000"},
+        {"unit above the net", "3", 500, "1=500 (1:3), total 500"},
+        {"unit of 0", "1234", 0, "1=1234 (1:1234), total 1234"},
+        {"negative unit", "1234", -500, "1=1234 (1:1234), total 1234"},
+        {"unit on a tie", "7", 2.5, "1=8 (1:7), total 8"},
+        {"any type but 0 deducts", "100 2:30 -1:20", 0, "1=50 (1:100 2:30 3:20), total 50"},
     });
 }
 
 TEST(Totals, WrapRoundAt32Bits) {
     check({
-        {"a row", {{{0, wraps + 5}, {0, 10}}}, 0, "total -2147483633"},
-        {"a row far beyond", {{{0, 2 * wraps + 7}}}, 0, "1=7 (1:7), total 7"},
-        {"a line", {{{0, wraps - 1}, {0, wraps - 1}, {0, 12}}}, 0, "1=10 (1:2147483647 2:2147483647 3:12), total 10"},
-        {"raising to the unit", {{{0, wraps - 1}}}, 1000, "total -2147483296"},
-        {"the run",
-         {{{0, wraps - 1}}, {{0, wraps - 1}}, {{0, 12}}},
-         0,
+        {"a row", "2147483653 10", 0, "total -2147483633"},
+        {"a row far beyond", "4294967303", 0, "1=7 (1:7), total 7"},
+        {"a line", "2147483647 2147483647 12", 0, "1=10 (1:2147483647 2:2147483647 3:12), total 10"},
+        {"raising to the unit", "2147483647", 1000, "total -2147483296"},
+        {"the run", "2147483647, 2147483647, 12", 0,
          "1=2147483647 (1:2147483647), 2=2147483647 (2:2147483647), 3=12 (3:12), total 10"},
     });
 }
 
 TEST(Cleaning, TakesRowsAndLinesWithoutAPositiveAmountButNotTheirTotals) {
     check({
-        {"rows of 0 and below", {{{0, 0}, {0, 100}, {0, -30}, {0, 0.4}}}, 0, "1=70 (2:100), total 70"},
-        {"line of 0 with a positive row", {{{0, 100}, {1, 100}}, {{0, 5}}}, 0, "2=5 (3:5), total 5"},
-        {"line below 0 counts in the total", {{{0, 5}}, {{1, 3}}}, 0, "1=5 (1:5), total 2"},
-        {"negative net is not raised", {{{0, 5}}, {{1, 1500}}}, 1000, "1=1000 (1:5), total -500"},
-        {"negative deduction adds and goes", {{{0, 5}, {1, -3}}}, 0, "1=8 (1:5), total 8"},
-        {"no rows", {{}, {{0, 5}}, {}}, 0, "2=5 (1:5), total 5"},
+        {"rows of 0 and below", "0 100 -30 0.4", 0, "1=70 (2:100), total 70"},
+        {"line of 0 with a positive row", "100 1:100, 5", 0, "2=5 (3:5), total 5"},
+        {"line below 0 counts in the total", "5, 1:3", 0, "1=5 (1:5), total 2"},
+        {"negative net is not raised", "5, 1:1500", 1000, "1=1000 (1:5), total -500"},
+        {"negative deduction adds and goes", "5 1:-3", 0, "1=8 (1:5), total 8"},
+        {"no rows", ", 5, ", 0, "2=5 (1:5), total 5"},
+        {"nothing at all", "", 1000, "total 0"},
     });
 }
 
 TEST(Cleaning, LeavesTotalsThatAgreeAfterTheNextPass) {
-    run::Run made = runOf({{{0, 100}, {0, -30}}, {{1, 3}}});
+    run::Run made = runOf("100 -30, 1:3");
     hitung(made, 0);
     EXPECT_EQ(describe(made), "1=70 (1:100), total 67");
     hitung(made, 0);
@@ -121,35 +107,28 @@ TEST(Cleaning, LeavesTotalsThatAgreeAfterTheNextPass) {
 
 TEST(Totals, AFaultEndsItsLineOrTheWalk) {
     check({
-        {"a row that is no amount",
-         {{{0, 100}, {0, 1e15}, {0, 7.5}}, {{0, 5}}},
-         0,
+        {"a row that is no amount", "100 1e15 7.5, 5", 0,
          "1=100 (1:100 2:1000000000000000 3:7.5), 2=5 (4:5), total 105"},
-        {"a unit that is no amount", {{{0, 100.5}}, {{0, 5}}}, 1e10, "total 0"},
+        {"a unit that is no amount", "100.5, 5", 1e10, "total 0"},
     });
 }
 
 TEST(Numbers, AreGivenFreeOnlyByTheLastOne) {
-    run::Run gap = runOf({{{0, 1}, {0, 0}, {0, 2}}, {{0, 0}}, {{0, 3}}});
+    const auto last = [](const run::Run& made) {
+        return std::pair(made.nomor_rincian_terakhir, made.nomor_baris_terakhir);
+    };
+    run::Run gap = runOf("1 0 2, 0, 3");
     hitung(gap, 0);
     EXPECT_EQ(describe(gap), "1=3 (1:1 3:2), 3=3 (5:3), total 6");
-    EXPECT_EQ(gap.nomor_rincian_terakhir, 3);
-    EXPECT_EQ(gap.nomor_baris_terakhir, 5);
+    EXPECT_EQ(last(gap), std::pair(3, 5));
     // 5 goes, 4 and 2 are gone already: the numbers stop falling at the first gap.
     gap.clear();
-    EXPECT_EQ(gap.nomor_rincian_terakhir, 2);
-    EXPECT_EQ(gap.nomor_baris_terakhir, 4);
+    EXPECT_EQ(last(gap), std::pair(2, 4));
 
-    run::Run whole = runOf({{{0, 1}, {0, 2}}, {{0, 3}}});
-    whole.clear();
-    EXPECT_EQ(whole.nomor_rincian_terakhir, 0);
-    EXPECT_EQ(whole.nomor_baris_terakhir, 0);
-}
-
-TEST(Numbers, OfRowsAndLinesAtTheEndFallBackWhileCleaning) {
-    run::Run made = runOf({{{0, 1}}, {{0, 2}, {0, 0}, {0, 0}}, {{1, 3}}});
-    hitung(made, 0);
-    EXPECT_EQ(describe(made), "1=1 (1:1), 2=2 (2:2), total 0");
-    EXPECT_EQ(made.nomor_rincian_terakhir, 2);
-    EXPECT_EQ(made.nomor_baris_terakhir, 2);
+    run::Run end = runOf("1, 2 0 0, 1:3");
+    hitung(end, 0);
+    EXPECT_EQ(describe(end), "1=1 (1:1), 2=2 (2:2), total 0");
+    EXPECT_EQ(last(end), std::pair(2, 2));
+    end.clear();
+    EXPECT_EQ(last(end), std::pair(0, 0));
 }
