@@ -127,6 +127,7 @@ void Tfrm_hitung_gaji::connect_handlers() {
         {m_ui->btn_invert, &Self::btn_invertClick}};
     for (const auto& [button, handler] : clicks)
         onEvent(button, &QPushButton::clicked, this, handler);
+    setDefaultButton(m_ui->btn_cari);
     onEvent(m_ui->dbg_m, &DataGrid::rowChangedByUser, this, &Self::dbg_mClick);
     onEvent(m_ui->dbg_d, &DataGrid::rowChangedByUser, this, &Self::dbg_dClick);
 }
@@ -136,7 +137,8 @@ void Tfrm_hitung_gaji::FormActivate() {
     m_ui->dtp_tgl_akh->setDate(today);
     m_ui->dtp_tgl_aw->setDate(today.addDays(-shownDays));
     btn_cariClick();
-    m_ui->dbg_m->setFocus();
+    // A list without rows takes no focus.
+    (m_ui->dbg_m->isEnabled() ? static_cast<QWidget*>(m_ui->dbg_m) : m_ui->dtp_tgl_aw)->setFocus();
 }
 
 void Tfrm_hitung_gaji::FormClose() {
@@ -220,20 +222,13 @@ void Tfrm_hitung_gaji::btn_tambahClick() {
 }
 
 void Tfrm_hitung_gaji::btn_editClick() {
-    const frame::Ticked ticked = frame::tickedRows(cds_m);
-    if (ticked.count > 1)
-        m_services.messages.inform(this, lebih_dari_satu);
-    if (ticked.count != 1)
-        return;
-    cds_m.goToRow(ticked.lastRow);
-    open_form({.mode = RunFormTask::Edit, .process_id = cds_m.integer32(u"process_id")});
+    if (frame::goToOnlyTicked(cds_m, m_services.messages, this, lebih_dari_satu))
+        open_form({.mode = RunFormTask::Edit, .process_id = cds_m.integer32(u"process_id")});
 }
 
 void Tfrm_hitung_gaji::btn_hapusClick() {
-    if (cds_m.isEmpty() || !m_services.messages.confirm(this, yakin_hapus))
-        return;
-    frame::forEachTicked(cds_m, [this] { delete_current_run(); });
-    open_list();
+    if (frame::askForTicked(cds_m, m_services.messages, this, yakin_hapus, [this] { delete_current_run(); }))
+        open_list();
 }
 
 void Tfrm_hitung_gaji::delete_current_run() {

@@ -2,6 +2,7 @@
 
 #include "schema/settings_keys.h"
 #include "toolkit/data/drop_fault.h"
+#include "toolkit/text/bool_text.h"
 
 #include <QStringList>
 
@@ -17,15 +18,11 @@ constexpr auto ruleSelect = "select grp_com.*, com.com_kode, com.com_name, com.t
 constexpr auto componentJoin = "left join z_pay_com as com on grp_com.com_id=com.com_id "_L1;
 constexpr auto ruleOrder = "order by com.type, com.no_urut, grp_com.no_urut_ref "_L1;
 
-/// Any number but 0 is true.
 void readFlag(db::Connection& app, QLatin1String param_id, bool& flag) {
     data::dropFault("a setting of full attendance", [&] {
         db::Result row = app.query(u"Select * from global_setting where param_id='"_s + param_id + u"' "_s);
         row.next();
-        bool isNumber = false;
-        const double number = row.text(u"param_value"_s).trimmed().toDouble(&isNumber);
-        if (isNumber)
-            flag = number != 0;
+        flag = boolFromText(row.text(u"param_value"_s));
     });
 }
 

@@ -61,7 +61,7 @@ void applyText(QObject* target, const QString& text, int no_index) {
     else if (auto* label = qobject_cast<QLabel*>(target))
         label->setText(text);
     else if (auto* button = qobject_cast<QAbstractButton*>(target))
-        button->setText(text);
+        no_index == -1 ? button->setText(text) : button->setToolTip(text);
     else if (auto* combo = qobject_cast<QComboBox*>(target))
         applyToCombo(*combo, text, no_index);
     else if (auto* group = qobject_cast<QGroupBox*>(target))

@@ -2,8 +2,6 @@
 
 #include "toolkit/text/sql_text.h"
 
-#include <QApplication>
-
 #include <utility>
 
 namespace frame {
@@ -50,7 +48,7 @@ int Messages::show(MessageDialog& dialog, QWidget* screen, const MessageText& me
     const Message shown{message.form(), message.id(), LookupMessage(message.id(), message.text(), message.form())};
     const int result = dialog.execute(screen, shown);
     if (result == MessageLanguage)
-        EditMessage(shown);
+        EditMessage(shown, screen);
     return result;
 }
 
@@ -66,8 +64,8 @@ bool Messages::confirm(QWidget* screen, const MessageText& message) {
     return show(Msd_Konfirmasi, screen, message) == MessageOk;
 }
 
-void Messages::EditMessage(const Message& message) {
-    const std::optional<QString> text = Input_dialog_bahasa.execute(QApplication::activeWindow(), message.text);
+void Messages::EditMessage(const Message& message, QWidget* screen) {
+    const std::optional<QString> text = Input_dialog_bahasa.execute(screen, message.text);
     if (text)
         storeText({message.form, message.id, *text});
 }

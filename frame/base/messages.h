@@ -44,7 +44,7 @@ public:
     /// Throws data::Fault where the table has no such language.
     [[nodiscard]] QString LookupMessage(const QString& messageId, const QString& text, const QString& form);
     /// Lets the user change the text; an emptied one deletes the row with the texts of all languages.
-    void EditMessage(const Message& message);
+    void EditMessage(const Message& message, QWidget* screen);
 
     void error(QWidget* screen, const MessageText& message);
     void inform(QWidget* screen, const MessageText& message);

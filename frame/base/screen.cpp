@@ -2,14 +2,34 @@
 
 #include "toolkit/ui/handler.h"
 
+#include <QKeyEvent>
+#include <QPushButton>
+#include <QScreen>
 #include <QShowEvent>
+
+#include <algorithm>
 
 Screen::Screen(frame::Services& services, QWidget* parent) : QDialog(parent), m_services(services) {
     setWindowFlag(Qt::WindowMaximizeButtonHint);
 }
 
+void Screen::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    const QList<QPushButton*> buttons = findChildren<QPushButton*>();
+    const bool hasDefault =
+        std::any_of(buttons.begin(), buttons.end(), [](auto* button) { return button->isDefault(); });
+    if (auto* button = qobject_cast<QPushButton*>(focusWidget()); enter && button)
+        button->click();
+    else if (!enter || hasDefault)
+        QDialog::keyPressEvent(event);
+    else
+        focusNextChild();
+}
+
 void Screen::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
+    if (!event->spontaneous())
+        resize(size().boundedTo(screen()->availableSize()));
     if (!event->spontaneous())
         QMetaObject::invokeMethod(
             this, [this] { runHandler(this, [this] { FormActivate(); }); }, Qt::QueuedConnection);

@@ -17,6 +17,8 @@ protected:
     virtual void FormActivate() {}
 
     void showEvent(QShowEvent* event) override;
+    /// Enter presses the default button or the one in focus; where there is neither it goes on to the next field.
+    void keyPressEvent(QKeyEvent* event) override;
     /// Opens a child screen modally, then activates this one again.
     void openModal(Screen& child);
 

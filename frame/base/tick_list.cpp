@@ -6,8 +6,8 @@ namespace {
 
 constexpr int ticked = -1;
 
-bool isTicked(const data::DataSet& list, int row, int field) {
-    return data::integerOf(list.valueAt(row, field)) == ticked;
+bool isTicked(const data::DataSet& list) {
+    return list.integer(u"pilih") == ticked;
 }
 
 int wishedTick(TickWish wish, bool isTickedNow) {
@@ -28,7 +28,7 @@ void setTicks(data::DataSet& list, TickWish wish, const TickToggled& toggled) {
     const data::ViewsOff off(list);
     const int row = list.row();
     for (list.first(); !list.isEof(); list.next()) {
-        const int tick = wishedTick(wish, list.integer(u"pilih") == ticked);
+        const int tick = wishedTick(wish, isTicked(list));
         list.edit();
         list.setValue(u"pilih", tick);
         if (toggled)
@@ -42,20 +42,31 @@ void forEachTicked(data::DataSet& list, const std::function<void()>& action) {
     const data::ViewsOff off(list);
     const int row = list.row();
     for (list.first(); !list.isEof(); list.next())
-        if (list.integer(u"pilih") == ticked)
+        if (isTicked(list))
             action();
     list.goToRow(row);
 }
 
-Ticked tickedRows(const data::DataSet& list) {
-    Ticked found;
-    const int field = list.fieldIndex(u"pilih");
-    for (int row = 0; row < list.rowCount(); ++row)
-        if (isTicked(list, row, field)) {
-            ++found.count;
-            found.lastRow = row;
-        }
-    return found;
+bool goToOnlyTicked(data::DataSet& list, Messages& messages, QWidget* screen, const MessageText& several) {
+    int count = 0;
+    int row = 0;
+    forEachTicked(list, [&] {
+        ++count;
+        row = list.row();
+    });
+    if (count > 1)
+        messages.inform(screen, several);
+    if (count == 1)
+        list.goToRow(row);
+    return count == 1;
+}
+
+bool askForTicked(data::DataSet& list, Messages& messages, QWidget* screen, const MessageText& question,
+                  const std::function<void()>& action) {
+    if (list.isEmpty() || !messages.confirm(screen, question))
+        return false;
+    forEachTicked(list, action);
+    return true;
 }
 
 } // namespace frame

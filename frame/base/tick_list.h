@@ -1,9 +1,9 @@
 #pragma once
 
+#include "frame/base/messages.h"
 #include "toolkit/data/data_set.h"
 
 #include <functional>
-#include <optional>
 
 namespace frame {
 
@@ -20,11 +20,13 @@ void setTicks(data::DataSet& list, TickWish wish, const TickToggled& toggled = {
 /// Calls the action on each ticked row while it is current; the cursor returns to its row afterwards.
 void forEachTicked(data::DataSet& list, const std::function<void()>& action);
 
-/// How many rows are ticked, and the place of the last of them.
-struct Ticked {
-    int count = 0;
-    int lastRow = -1;
-};
-[[nodiscard]] Ticked tickedRows(const data::DataSet& list);
+/// For what is done to one row: makes the one ticked row current. False where none is ticked, or several, of which the
+/// user is told.
+[[nodiscard]] bool goToOnlyTicked(data::DataSet& list, Messages& messages, QWidget* screen, const MessageText& several);
+
+/// For deletions: asks whether there are rows at all, then calls the action on each ticked row. False where the user
+/// said no.
+bool askForTicked(data::DataSet& list, Messages& messages, QWidget* screen, const MessageText& question,
+                  const std::function<void()>& action);
 
 } // namespace frame

@@ -2,10 +2,12 @@
 
 #include "toolkit/ui/handler.h"
 
+#include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QPushButton>
 #include <QToolButton>
 
 #include <chrono>
@@ -40,8 +42,13 @@ void Workspace::closeEvent(QCloseEvent* event) {
 }
 
 void Workspace::keyPressEvent(QKeyEvent* event) {
+    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape)
         close();
+    else if (auto* button = qobject_cast<QPushButton*>(focusWidget()); enter && button)
+        button->click();
+    else if (enter && m_defaultButton && !qobject_cast<QAbstractItemView*>(focusWidget()))
+        m_defaultButton->click();
     else
         QWidget::keyPressEvent(event);
 }

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 class QLabel;
+class QPushButton;
 
 /// A child window of the frame: the home of one subsystem. It is created for its use, keeps the frame's own panels
 /// covered while it is open, and frees itself when it is closed.
@@ -14,6 +15,9 @@ class Workspace : public QWidget {
 
 public:
     Workspace(frame::Services& services, QWidget* parent);
+
+    /// What Enter presses while one of the search fields has the focus.
+    void setDefaultButton(QPushButton* button) { m_defaultButton = button; }
 
 Q_SIGNALS:
     /// Sent again and again while the workspace is open.
@@ -34,6 +38,7 @@ protected:
 
 private:
     QTimer Timer1;
+    QPushButton* m_defaultButton = nullptr;
     bool m_firstActivation = true;
 };
 

@@ -27,9 +27,13 @@ int main(int argc, char** argv) {
         // A refused start must leave no trace, so it is told before the window system hears of the process.
         if (!program.isAdmitted())
             return 0;
-        QApplication application(argc, argv);
+        // The arguments are the launcher's texts; none of them is an option of the toolkit.
+        int ownName = 1;
+        QApplication application(ownName, argv);
         applyTheme(application);
-        return program.openFrame() ? QApplication::exec() : 0;
+        const int code = program.openFrame() ? QApplication::exec() : 0;
+        program.closeAll();
+        return code;
     } catch (const std::exception& fault) {
         std::fprintf(stderr, "%s\n", fault.what());
         return 1;

@@ -1,6 +1,5 @@
 #include "run/form/fr_isian_hitung_gaji.h"
 
-#include "frame/base/tick_list.h"
 #include "run/compute.h"
 #include "toolkit/data/clear_data_set.h"
 #include "toolkit/data/drop_fault.h"
@@ -128,7 +127,7 @@ void Tfrm_isian_hitung_gaji::connect_handlers() {
             [this](const QString&, const QString& text) { runHandler(this, [&] { dbg_grppilihToggleClick(text); }); });
     connect(m_ui->dbg_kom, &DataGrid::toggled, this,
             [this](const QString&, const QString& text) { runHandler(this, [&] { dbg_kompilihToggleClick(text); }); });
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { leave_pnl_emp(now); });
+    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { pnl_empExit(now); });
 }
 
 void Tfrm_isian_hitung_gaji::FormActivate() {
@@ -162,9 +161,17 @@ void Tfrm_isian_hitung_gaji::open_run() {
     if (m_task.mode == RunFormTask::Edit)
         m_copy.editAll();
     else
-        for (data::DataSet* set : std::initializer_list<data::DataSet*>{&m_copy.cds_m, &m_copy.cds_d, &m_copy.cds_sd})
-            set->setReadOnly(true);
+        set_read_only();
     siapkan_ubah();
+}
+
+void Tfrm_isian_hitung_gaji::set_read_only() {
+    for (data::DataSet* set : std::initializer_list<data::DataSet*>{&m_copy.cds_m, &m_copy.cds_d, &m_copy.cds_sd})
+        set->setReadOnly(true);
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{m_ui->dbe_nama, m_ui->dbe_bulat, m_ui->dbtp_tgl_aw, m_ui->dbtp_tgl_akh,
+                                         m_ui->btn_proses, m_ui->btn_hitung, m_ui->btn_hapus, m_ui->btn_hapus2})
+        control->setEnabled(false);
 }
 
 void Tfrm_isian_hitung_gaji::siapkan_baru() {
@@ -188,7 +195,8 @@ void Tfrm_isian_hitung_gaji::siapkan_ubah() {
     m_ui->lbl_total->setText(groupedInteger(m_copy.cds_m.real(u"tot_process")));
     m_copy.cds_d.last();
     m_copy.cds_d.first();
-    if (m_task.mode == RunFormTask::Edit)
+    // A run that another station has deleted meanwhile has no header to stamp.
+    if (m_task.mode == RunFormTask::Edit && !m_copy.cds_m.isEmpty())
         m_copy.stamp();
     FitGridColumns(*m_ui->dbg_d);
     FitGridColumns(*m_ui->dbg_sd);
@@ -203,23 +211,20 @@ void Tfrm_isian_hitung_gaji::segarkan_rincian() {
     m_ui->lbl_nama_emp->setText(m_copy.cds_d.text(u"nama"));
 }
 
-run::Notice Tfrm_isian_hitung_gaji::compute(run::Run& run) {
+run::Notice Tfrm_isian_hitung_gaji::compute() {
     BusyScreen busy(m_ui->pnl_proses, m_ui->pgb_proses);
     m_copy.deleteAllLines();
-    run.nomor_rincian_terakhir = m_copy.nomor_rincian_terakhir();
-    run.nomor_baris_terakhir = m_copy.nomor_baris_terakhir();
     frame::Session& session = m_services.session;
+    run::Run run;
     const auto show = [&busy](const run::Progress& progress) { busy.showProgress(progress.done, progress.of); };
     const run::Notice notice = run::computeRun(run, selections(), session.ADOConn, session.ADOConn_lang, show);
     m_copy.appendRun(run);
-    m_copy.hitung();
     return notice;
 }
 
 void Tfrm_isian_hitung_gaji::btn_prosesClick() {
     m_copy.cds_m.settle();
-    run::Run run;
-    const run::Notice notice = compute(run);
+    const run::Notice notice = compute();
     if (notice == run::Notice::NoEmployees)
         m_services.messages.inform(this, tidak_ada_karyawan);
     else if (notice == run::Notice::MoreThan200Employees)
@@ -258,16 +263,18 @@ bool Tfrm_isian_hitung_gaji::cek_nama_proses() {
 }
 
 void Tfrm_isian_hitung_gaji::btn_simpanClick() {
-    if (cek_nama_proses())
-        simpan();
+    m_copy.cds_m.settle();
+    if (cek_nama_proses() && m_task.mode != RunFormTask::View)
+        data::dropFault("saving a run", [this] { simpan(); });
     m_task.refresh();
 }
 
 void Tfrm_isian_hitung_gaji::simpan() {
-    btn_hitungClick();
-    m_copy.applyAll();
-    if (m_task.mode == RunFormTask::View)
-        return;
+    {
+        const BusyScreen busy(m_ui->pnl_proses, m_ui->pgb_proses);
+        btn_hitungClick();
+        m_copy.applyAll();
+    }
     save_log(m_task.mode == RunFormTask::New ? QStringLiteral("Insert") : QStringLiteral("Update"));
     m_task.refresh();
     if (m_task.mode == RunFormTask::New && m_task.goToLast)

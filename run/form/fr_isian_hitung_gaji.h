@@ -36,6 +36,8 @@ public:
 protected:
     void FormActivate() override;
     void resizeEvent(QResizeEvent* event) override;
+    /// Esc closes the list of employees first.
+    void reject() override;
 
 private:
     void btn_select_allClick();
@@ -74,12 +76,14 @@ private:
     void segarkan_rincian();
     [[nodiscard]] run::Selections selections() const;
     [[nodiscard]] run::EmployeeChoice chosen_employees() const;
-    [[nodiscard]] run::Notice compute(run::Run& run);
+    [[nodiscard]] run::Notice compute();
     [[nodiscard]] bool cek_nama_proses();
     void simpan();
     void save_log(const QString& action);
     void pnl_empPop();
-    void leave_pnl_emp(QWidget* focus);
+    void pnl_empExit(QWidget* focus);
+    void set_read_only();
+    void place_panels();
 
     std::unique_ptr<Ui::frm_isian_hitung_gaji> m_ui;
     const RunFormTask m_task;

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr int pnlEmpTop = 296;
+constexpr int pnlEmpBottomMargin = 12;
 
 } // namespace
 
@@ -109,11 +110,11 @@ void Tfrm_isian_hitung_gaji::dbg_kompilihToggleClick(const QString& text) {
 
 void Tfrm_isian_hitung_gaji::chb_empClick() {
     m_ui->btn_emp->setEnabled(m_ui->chb_emp->isChecked());
-    isi_daftar_karyawan();
     if (m_ui->chb_emp->isChecked())
         pnl_empPop();
     else
         m_ui->pnl_emp->hide();
+    isi_daftar_karyawan();
 }
 
 void Tfrm_isian_hitung_gaji::btn_empClick() {
@@ -121,24 +122,33 @@ void Tfrm_isian_hitung_gaji::btn_empClick() {
 }
 
 void Tfrm_isian_hitung_gaji::pnl_empPop() {
-    resizeEvent(nullptr);
+    place_panels();
     m_ui->pnl_emp->show();
     m_ui->pnl_emp->raise();
     m_ui->clb_emp->setFocus();
 }
 
-void Tfrm_isian_hitung_gaji::leave_pnl_emp(QWidget* focus) {
+void Tfrm_isian_hitung_gaji::pnl_empExit(QWidget* focus) {
     if (focus && focus != m_ui->pnl_emp && !m_ui->pnl_emp->isAncestorOf(focus))
         m_ui->pnl_emp->hide();
 }
 
 void Tfrm_isian_hitung_gaji::resizeEvent(QResizeEvent* event) {
-    if (event)
-        Screen::resizeEvent(event);
+    Screen::resizeEvent(event);
+    place_panels();
+}
+
+void Tfrm_isian_hitung_gaji::reject() {
+    if (m_ui->pnl_emp->isVisible())
+        m_ui->chb_emp->setFocus();
+    else
+        Screen::reject();
+}
+
+void Tfrm_isian_hitung_gaji::place_panels() {
     const int left = m_ui->dbg_d->geometry().left();
-    const int top = std::min(pnlEmpTop, height() / 3);
-    m_ui->pnl_emp->setGeometry(left, top, std::max(width() / 3, m_ui->pnl_emp->sizeHint().width()),
-                               height() - top - 12);
+    m_ui->pnl_emp->setGeometry(left, pnlEmpTop, std::max(width() / 3, m_ui->pnl_emp->sizeHint().width()),
+                               height() - pnlEmpTop - pnlEmpBottomMargin);
     m_ui->pnl_proses->adjustSize();
     m_ui->pnl_proses->move(rect().center() - m_ui->pnl_proses->rect().center());
 }

@@ -186,8 +186,11 @@ void WorkingCopy::hitung() {
         cds_sd.settle();
         cds_d.settle();
         FormRunView view(*this);
-        cds_m.editValue(u"tot_process", run::hitung(view, cds_m.real(u"round_value")));
-        cds_m.post();
+        const double total = run::hitung(view, cds_m.real(u"round_value"));
+        if (!cds_m.isEmpty()) {
+            cds_m.editValue(u"tot_process", total);
+            cds_m.post();
+        }
         hitung2(view);
     }
     segarkan_rincian();

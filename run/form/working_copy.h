@@ -40,8 +40,6 @@ public:
     void deleteAllLines();
     /// Adds the lines and rows of a computation behind what is there.
     void appendRun(const Run& run);
-    [[nodiscard]] int nomor_rincian_terakhir() const { return m_nomor_rincian_terakhir; }
-    [[nodiscard]] int nomor_baris_terakhir() const { return m_nomor_baris_terakhir; }
 
     /// Rounds, totals and cleans all lines, and puts the total into the header.
     void hitung();

@@ -68,7 +68,7 @@ private:
         else if (const auto* label = qobject_cast<const QLabel*>(&object))
             add(name, -1, label->text());
         else if (const auto* button = qobject_cast<const QAbstractButton*>(&object))
-            add(name, -1, button->text());
+            add(name, -1, button->text()), add(name, 0, button->toolTip());
         else if (const auto* group = qobject_cast<const QGroupBox*>(&object))
             add(name, -1, group->title());
         else if (const auto* action = qobject_cast<const QAction*>(&object))

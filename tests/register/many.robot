@@ -1,4 +1,4 @@
-# 200 ticked employees pass in silence, 201 are computed too and a message warns.
+# 201 ticked employees are all computed and saved, and a message warns; 200 pass in silence.
 #: company 260 1
 #: options --user hrd --now "2026-11-05 08:15"
 #: main update z_pay_grp_emp set grp_id=(select min(grp_id) from z_pay_grp);
@@ -13,8 +13,13 @@ click chb_emp
 click btn_sel_all
 get lbl_jml
 click btn_proses
+type dbe_nama "Banyak"
+click btn_simpan
+#: rows select count(*), min(no_urut), max(no_urut) from z_pay_process_d
+click btn_tambah
+click btn_select_all
+click btn_select_all2
 #: main delete from z_pay_grp_emp where emp_id_auto = (select n from (select max(emp_id_auto) as n from z_pay_grp_emp) as x)
-click chb_emp
 click chb_emp
 click btn_sel_all
 get lbl_jml

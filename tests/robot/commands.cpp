@@ -135,6 +135,12 @@ const Actions& actions() {
                   r.dialogs().queueAnswer(wholeNumber(word));
           }}},
         {u"input"_qs, {1, 1, [](Robot& r, const Words& w) { r.dialogs().queueInput(w[0]); }}},
+        {u"key"_qs,
+         {1, 1,
+          [](Robot& r, const Words& w) {
+              const auto forms = r.forms().openForms();
+              pressKeys(forms.empty() ? nullptr : forms.front(), w[0]);
+          }}},
         {u"get"_qs,
          {1, 1,
           [](Robot& r, const Words& w) {

@@ -1,11 +1,37 @@
 #include "tests/robot/keyboard.h"
 
+#include "tests/robot/script.h"
+
+#include <QDateTimeEdit>
+#include <QGuiApplication>
+#include <QKeySequence>
+#include <QWindow>
 #include <QtTest/qtestkeyboard.h>
+#include <QtTest/qtestsystem.h>
 
 void typeText(QWidget* control, const QString& text) {
-    QMetaObject::invokeMethod(control, "selectAll");
+    if (auto* date = qobject_cast<QDateTimeEdit*>(control))
+        date->setSelectedSection(date->sectionAt(0));
+    else
+        QMetaObject::invokeMethod(control, "selectAll");
     if (text.isEmpty())
         QTest::keyClick(control, Qt::Key_Delete);
     for (const QChar c : text)
         QTest::sendKeyEvent(QTest::Click, control, Qt::Key_unknown, QString(c), Qt::NoModifier);
+}
+
+void pressKeys(QWidget* topmost, const QString& name) {
+    const QKeySequence keys(name);
+    // Without a window manager nobody gives the focus back when a dialog has closed.
+    if (!QGuiApplication::focusWindow() && topmost) {
+        topmost->window()->activateWindow();
+        QTest::qWait(20);
+    }
+    QWindow* window = QGuiApplication::focusWindow();
+    if (keys.count() != 1 || keys[0].key() == Qt::Key_unknown || !window)
+        throw CommandError(QStringLiteral("cannot press %1").arg(name));
+    // The window's road, not the control's: only there do shortcuts act.
+    QTest::keyClick(window, keys[0].key(), keys[0].keyboardModifiers());
+    // A button that is pressed by its shortcut stays down for a tenth of a second before it acts.
+    QTest::qWait(150);
 }

@@ -91,9 +91,12 @@ void DataSet::remove() {
 }
 
 void DataSet::settle() {
+    if (!isOpen())
+        return;
+    // What is typed may be the first change of the record, so it counts while browsing, too.
+    Q_EMIT flushRequested();
     if (!isEditing())
         return;
-    Q_EMIT flushRequested();
     if (m_modified)
         post();
     else

@@ -6,7 +6,6 @@
 
 #include <optional>
 
-class QLabel;
 class QLineEdit;
 
 /// Asks for one line of text.

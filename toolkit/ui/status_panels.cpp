@@ -23,7 +23,7 @@ void StatusPanels::setPanelCount(int count) {
 void StatusPanels::setPanelText(int index, const QString& text) {
     QLabel* panel = m_panels.at(std::size_t(index));
     panel->setText(text);
-    panel->setToolTip(text.toHtmlEscaped());
+    panel->setToolTip(QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()));
 }
 
 QString StatusPanels::panelText(int index) const {
