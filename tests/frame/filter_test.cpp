@@ -94,7 +94,11 @@ TEST_F(Filter, ByNameTheTreeLimitsEverySearch) {
 TEST_F(Filter, AnotherFieldForgetsWhatWasChosenBefore) {
     enter({FilterBlock::Cabang, "Pusat"});
     EXPECT_EQ(byName({FilterBlock::Jabatan, ""}), " and dept_name like 'PT%' ");
-    EXPECT_EQ(byKey({FilterBlock::Cabang, ""}), "");
+    for (const Entry& entry : {Entry{FilterBlock::Cabang, "Pusat"}, Entry{FilterBlock::Jabatan, "Staf"}}) {
+        enter(entry);
+        block.select(entry.index);
+        EXPECT_EQ(block.conditionByKey(), QString());
+    }
     enter({FilterBlock::Departemen, "Las"});
     EXPECT_EQ(byName({FilterBlock::Semua, ""}), " and dept_name like 'PT%' ");
 }
