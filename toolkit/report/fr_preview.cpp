@@ -12,6 +12,7 @@
 #include <QShortcut>
 
 #include <array>
+#include <utility>
 
 using report::PageView;
 
@@ -126,20 +127,19 @@ void Tfrm_preview::btn_cetakClick() {
     dialog.setOption(QAbstractPrintDialog::PrintCurrentPage);
     if (dialog.exec() != QDialog::Accepted)
         return;
-    int first = 1;
-    int last = count;
+    std::pair pages(1, count);
     if (dialog.printRange() == QAbstractPrintDialog::CurrentPage)
-        first = last = ui->pv_halaman->currentPage();
+        pages = {ui->pv_halaman->currentPage(), ui->pv_halaman->currentPage()};
     else if (dialog.printRange() == QAbstractPrintDialog::PageRange)
-        first = printer.fromPage(), last = printer.toPage();
-    tryOutput(this, [&] { report::printPages(document(), printer, first, last); });
+        pages = {printer.fromPage(), printer.toPage()};
+    tryOutput(this, [&] { report::printPages(document(), printer, pages.first, pages.second); });
 }
 
 void Tfrm_preview::btn_simpanClick() {
-    QFileDialog dialog(this, ui->btn_simpan->text(), document().title + QStringLiteral(".pdf"),
-                       QStringLiteral("PDF (*.pdf)"));
+    QFileDialog dialog(this, windowTitle(), {}, QStringLiteral("PDF (*.pdf)"));
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setDefaultSuffix(QStringLiteral("pdf"));
+    dialog.selectFile(document().title + QStringLiteral(".pdf"));
     if (dialog.exec() == QDialog::Accepted)
         tryOutput(this, [&] { report::savePdf(document(), dialog.selectedFiles().constFirst()); });
 }
