@@ -19,8 +19,6 @@ protected:
         return result.integer(0);
     }
 
-    void killSession(qint64 id) { m_database.run(u"kill %1"_qs.arg(id)); }
-
     QStringList counted() { return m_database.rows(u"select count(*) from hitung"_qs); }
 
     TestDatabase m_database;
@@ -31,7 +29,7 @@ protected:
 
 TEST_F(Reconnect, AStatementAfterTheSessionDiedIsSentOnANewOneOnce) {
     const qint64 before = sessionId();
-    killSession(before);
+    m_database.run(u"kill %1"_qs.arg(before));
     m_connection.execute(u"insert into hitung values(1)"_qs);
     EXPECT_NE(sessionId(), before);
     EXPECT_EQ(counted(), QStringList{u"1"_qs});
@@ -43,14 +41,10 @@ TEST_F(Reconnect, AStatementWhoseFateIsUnknownIsNotSentAgain) {
         db::Connection other;
         other.configure(m_database.mainSettings());
         // The insert below is carried out row by row; its first row is waiting inside sleep() by then.
-        for (int i = 0; i < 100; ++i) {
-            db::Result running = other.query(
-                u"select count(*) from information_schema.processlist where id=%1 and state='User sleep'"_qs.arg(id));
-            running.next();
-            if (running.integer(0) == 1)
-                break;
+        const QString sleeping =
+            u"select 1 from information_schema.processlist where id=%1 and state='User sleep'"_qs.arg(id);
+        for (int i = 0; i < 100 && other.query(sleeping).rowCount() == 0; ++i)
             std::this_thread::sleep_for(std::chrono::milliseconds(20));
-        }
         other.execute(u"kill %1"_qs.arg(id));
     });
     EXPECT_THROW(m_connection.execute(u"insert into hitung select sleep(30)"_qs), db::Fault);

@@ -1,137 +1,91 @@
 #include "tests/support/test_database.h"
 #include "tools/company/generate.h"
 
-#include <QCoreApplication>
-
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-const QStringList mainTables = {
-    u"cabang"_s,           u"date_temp"_s,  u"dept"_s,          u"emp"_s,           u"ex_absent"_s,   u"free_ot"_s,
-    u"free_ot_result_m"_s, u"func"_s,       u"holiday"_s,       u"shift_result"_s,  u"sum_report"_s,  u"user_log"_s,
-    u"z_pay_com"_s,        u"z_pay_grp"_s,  u"z_pay_grp_com"_s, u"z_pay_grp_emp"_s, u"z_pay_money"_s, u"z_pay_report"_s,
-    u"zx_bayar_kredit"_s,  u"zx_jns_krd"_s, u"zx_kredit_d"_s,   u"zx_kredit_m"_s};
-const QStringList appTables = {u"change_lang"_s, u"global_setting"_s, u"tvk_message"_s, u"user_login"_s};
-
-/// A generated company, dropped at the end of its life.
-class Company final {
-public:
-    explicit Company(const company::Options& options) {
-        static int count = 0;
-        db::ConnectionSettings settings = testServer();
-        settings.database = u"orvane_company_%1_%2"_s.arg(QCoreApplication::applicationPid()).arg(++count);
-        company::uninstall(settings);
-        company::generate(settings, options);
-        m_main.configure(settings);
-        m_app.configure(company::applicationSettings(settings));
-    }
-    ~Company() { company::uninstall(m_main.settings()); }
-    Company(const Company&) = delete;
-    Company& operator=(const Company&) = delete;
-
-    [[nodiscard]] const db::ConnectionSettings& settings() const { return m_main.settings(); }
-    [[nodiscard]] std::string rows(const QString& sql) {
-        return TestDatabase::rows(m_main, sql).join(u'\n').toStdString();
-    }
-    [[nodiscard]] std::string appRows(const QString& sql) {
-        return TestDatabase::rows(m_app, sql).join(u'\n').toStdString();
-    }
-    /// Sums of all rows of all tables.
-    [[nodiscard]] std::string checksum() {
-        return TestDatabase::rows(m_main, u"CHECKSUM TABLE "_s + mainTables.join(u','))
-                   .join(u' ')
-                   .remove(settings().database)
-                   .toStdString() +
-               TestDatabase::rows(m_app, u"CHECKSUM TABLE "_s + appTables.join(u','))
-                   .join(u' ')
-                   .remove(settings().database)
-                   .toStdString();
-    }
-
-private:
-    db::Connection m_main;
-    db::Connection m_app;
-};
+/// Sums of all rows of all tables.
+QString checksum(TestDatabase& company) {
+    const QString main = company.rows(u"SHOW TABLES"_s).join(u','), app = company.rowsApp(u"SHOW TABLES"_s).join(u',');
+    const QStringList sums = company.rows(u"CHECKSUM TABLE "_s + main) + company.rowsApp(u"CHECKSUM TABLE "_s + app);
+    return sums.join(u' ').remove(company.mainSettings().database);
+}
 
 company::Options demo() {
     return {.lastMonth = QDate(2026, 10, 14)};
 }
 
 /// One company for all questions that only read.
-Company& demoCompany() {
-    static Company one(demo());
+TestDatabase& demoCompany() {
+    static TestDatabase one(demo());
     return one;
 }
 
+std::string demoRows(const QString& sql) {
+    return demoCompany().rows(sql).join(u'\n').toStdString();
+}
+
 TEST(Company, SameOptionsGiveTheSameRowsAndAnotherSeedOthers) {
-    const std::string first = demoCompany().checksum();
+    const QString first = checksum(demoCompany());
+    TestDatabase again(demo());
+    EXPECT_EQ(checksum(again), first);
     company::Options other = demo();
-    EXPECT_EQ(Company(other).checksum(), first);
     other.seed = 2;
-    EXPECT_NE(Company(other).checksum(), first);
+    TestDatabase different(other);
+    EXPECT_NE(checksum(different), first);
 }
 
 TEST(Company, HasAllThatItsSizeAsksFor) {
-    EXPECT_EQ(demoCompany().rows(uR"(
+    EXPECT_EQ(demoRows(uR"(
         SELECT (SELECT count(*) FROM emp WHERE emp_id_auto<>-1), (SELECT count(*) FROM emp WHERE emp_id_auto=-1),
                (SELECT count(*) FROM emp WHERE emp_status=1), (SELECT count(*) FROM cabang),
                (SELECT max(length(dept_name)-length(replace(dept_name, '\\', ''))) FROM dept),
                (SELECT count(DISTINCT cab_id_auto) FROM emp), (SELECT count(DISTINCT func_id_auto) FROM emp),
                (SELECT count(DISTINCT pin) FROM emp))"_s),
               "60\t1\t3\t3\t2\t3\t11\t61");
-    EXPECT_EQ(demoCompany().rows(u"SELECT min(d), max(d) FROM (SELECT shift_date AS d FROM shift_result UNION ALL "
-                                 "SELECT date_temp FROM date_temp) AS days"_s),
+    EXPECT_EQ(demoRows(u"SELECT min(d), max(d) FROM (SELECT shift_date AS d FROM shift_result UNION ALL "
+                       "SELECT date_temp FROM date_temp) AS days"_s),
               "2026-08-01\t2026-10-31");
-    EXPECT_EQ(demoCompany().rows(u"SELECT sum(pin REGEXP '^0'), sum(pin REGEXP '^[A-Z]'), sum(pin LIKE '% %') > 0, "
-                                 "sum(nik IS NULL) > 0 FROM emp WHERE emp_id_auto<>-1"_s),
+    EXPECT_EQ(demoRows(u"SELECT sum(pin REGEXP '^0'), sum(pin REGEXP '^[A-Z]'), sum(pin LIKE '% %') > 0, "
+                       "sum(nik IS NULL) > 0 FROM emp WHERE emp_id_auto<>-1"_s),
               "5\t14\t1\t1");
-    EXPECT_EQ(demoCompany().rows(u"SELECT DISTINCT absent_id FROM date_temp WHERE absent_id<=6 ORDER BY 1"_s),
+    EXPECT_EQ(demoRows(u"SELECT DISTINCT absent_id FROM date_temp WHERE absent_id<=6 ORDER BY 1"_s),
               "1\n2\n3\n4\n5\n6");
-    EXPECT_EQ(demoCompany().rows(u"SELECT status, status_lunas, count(*)>0 FROM zx_kredit_m GROUP BY 1, 2"_s),
+    EXPECT_EQ(demoRows(u"SELECT status, status_lunas, count(*)>0 FROM zx_kredit_m GROUP BY 1, 2"_s),
               "-1\t-1\t1\n-1\t0\t1\n0\t0\t1");
-    EXPECT_EQ(demoCompany().rows(u"SELECT count(*)>0 FROM zx_bayar_kredit WHERE tgl_bayar>='2026-10-01'"_s), "1");
-    EXPECT_EQ(demoCompany().rows(u"SELECT DISTINCT module FROM user_log ORDER BY 1"_s), "1\n2\n3\n4\n5\n6");
-    EXPECT_EQ(demoCompany().appRows(u"SELECT group_id_auto=1, count(*)>1 FROM user_login GROUP BY 1"_s), "0\t1\n1\t1");
+    EXPECT_EQ(demoRows(u"SELECT count(*)>0 FROM zx_bayar_kredit WHERE tgl_bayar>='2026-10-01'"_s), "1");
+    EXPECT_EQ(demoRows(u"SELECT DISTINCT module FROM user_log ORDER BY 1"_s), "1\n2\n3\n4\n5\n6");
+    EXPECT_EQ(demoCompany().rowsApp(u"SELECT group_id_auto=1, count(*)>1 FROM user_login GROUP BY 1"_s),
+              QStringList({u"0\t1"_s, u"1\t1"_s}));
 }
 
-struct Reference {
-    const char* child;
-    const char* column;
-    const char* parent;
-};
-
 TEST(Company, NoRowStandsAlone) {
-    const Reference references[] = {{"emp", "cab_id_auto", "cabang"},
-                                    {"emp", "dept_id_auto", "dept"},
-                                    {"emp", "func_id_auto", "func"},
-                                    {"shift_result", "emp_id_auto", "emp"},
-                                    {"date_temp", "emp_id_auto", "emp"},
-                                    {"ex_absent", "emp_id_auto", "emp"},
-                                    {"free_ot_result_m", "emp_id_auto", "emp"},
-                                    {"z_pay_grp_com", "com_id", "z_pay_com"},
-                                    {"z_pay_grp_com", "grp_id", "z_pay_grp"},
-                                    {"z_pay_grp_emp", "grp_id", "z_pay_grp"},
-                                    {"z_pay_grp_emp", "emp_id_auto", "emp"},
-                                    {"z_pay_money", "com_id", "z_pay_com"},
-                                    {"z_pay_money", "emp_id_auto", "z_pay_grp_emp"},
-                                    {"zx_jns_krd", "com_id", "z_pay_com"},
-                                    {"zx_kredit_m", "krd_id", "zx_jns_krd"},
-                                    {"zx_kredit_m", "emp_id_auto", "emp"},
-                                    {"zx_kredit_d", "id_kredit", "zx_kredit_m"},
-                                    {"zx_bayar_kredit", "id_kredit", "zx_kredit_m"}};
-    for (const Reference& one : references)
-        EXPECT_EQ(
-            demoCompany().rows(u"SELECT (SELECT count(*) FROM %1)>0, "
+    const std::pair<const char*, QStringList> parents[] = {
+        {"cab_id_auto cabang", {u"emp"_s}},
+        {"dept_id_auto dept", {u"emp"_s}},
+        {"func_id_auto func", {u"emp"_s}},
+        {"emp_id_auto emp",
+         u"shift_result date_temp ex_absent free_ot_result_m z_pay_grp_emp zx_kredit_m"_s.split(u' ')},
+        {"com_id z_pay_com", u"z_pay_grp_com z_pay_money zx_jns_krd"_s.split(u' ')},
+        {"grp_id z_pay_grp", u"z_pay_grp_com z_pay_grp_emp"_s.split(u' ')},
+        {"emp_id_auto z_pay_grp_emp", {u"z_pay_money"_s}},
+        {"krd_id zx_jns_krd", {u"zx_kredit_m"_s}},
+        {"id_kredit zx_kredit_m", u"zx_kredit_d zx_bayar_kredit"_s.split(u' ')},
+    };
+    for (const auto& [parent, children] : parents)
+        for (const QString& child : children)
+            EXPECT_EQ(demoRows(u"SELECT (SELECT count(*) FROM %1)>0, "
                                "(SELECT count(*) FROM %1 WHERE %2 NOT IN (SELECT %2 FROM %3))"_s.arg(
-                                   QLatin1String(one.child), QLatin1String(one.column), QLatin1String(one.parent))),
-            "1\t0")
-            << one.child << '.' << one.column;
-    EXPECT_EQ(demoCompany().rows(u"SELECT dept_name FROM dept WHERE dept_name LIKE '%\\\\\\\\%' AND "
-                                 "substring(dept_name, 1, length(dept_name)-length(substring_index(dept_name, "
-                                 "'\\\\', -1))-1) NOT IN (SELECT dept_name FROM dept)"_s),
+                                   child, QString::fromLatin1(parent).section(u' ', 0, 0),
+                                   QString::fromLatin1(parent).section(u' ', 1))),
+                      "1\t0")
+                << child.toStdString() << ' ' << parent;
+    EXPECT_EQ(demoRows(u"SELECT dept_name FROM dept WHERE dept_name LIKE '%\\\\\\\\%' AND "
+                       "substring(dept_name, 1, length(dept_name)-length(substring_index(dept_name, "
+                       "'\\\\', -1))-1) NOT IN (SELECT dept_name FROM dept)"_s),
               "");
 }
 
@@ -139,28 +93,24 @@ TEST(Company, NoRowStandsAlone) {
 TEST(Company, EveryRuleCanBeEvaluated) {
     const QString rulesWhere = u"SELECT r.grp_id, r.com_id, r.no_urut_ref FROM z_pay_grp_com AS r "
                                "JOIN z_pay_com AS c ON c.com_id=r.com_id WHERE "_s;
-    for (const QString& side : {u"if"_s, u"sum"_s}) {
-        EXPECT_EQ(demoCompany().rows(rulesWhere + u"r.use_kode_%1=0 AND r.id_kode_%1 NOT IN "
-                                                  "(SELECT id_kode_report FROM z_pay_report)"_s.arg(side)),
+    for (const QString& side : {u"if"_s, u"sum"_s})
+        EXPECT_EQ(demoRows(rulesWhere + u"(r.use_kode_%1=0 AND r.id_kode_%1 NOT IN (SELECT id_kode_report FROM "
+                                        "z_pay_report)) OR (r.use_kode_%1=1 AND r.id_kode_%1 NOT IN (SELECT o.com_id "
+                                        "FROM z_pay_com AS o WHERE o.param=-1 AND o.no_urut<c.no_urut))"_s.arg(side)),
                   "");
-        EXPECT_EQ(
-            demoCompany().rows(rulesWhere + u"r.use_kode_%1=1 AND r.id_kode_%1 NOT IN (SELECT o.com_id FROM "
-                                            "z_pay_com AS o WHERE o.param=-1 AND o.no_urut<c.no_urut)"_s.arg(side)),
-            "");
-    }
-    EXPECT_EQ(demoCompany().rows(rulesWhere + u"r.use_if_sum=-1 AND r.use_kode_if NOT IN (0, 1)"_s), "");
-    EXPECT_EQ(demoCompany().rows(rulesWhere + u"r.use_sum=-1 AND r.use_kode_sum NOT IN (0, 1)"_s), "");
-    EXPECT_EQ(demoCompany().rows(rulesWhere + u"c.pinjaman=-1"_s), "");
-    EXPECT_EQ(demoCompany().rows(u"SELECT count(DISTINCT no_urut)=count(*), max(length(com_kode)), "
-                                 "max(length(com_name))<=30 FROM z_pay_com"_s),
+    EXPECT_EQ(demoRows(rulesWhere + u"(r.use_if_sum=-1 AND r.use_kode_if NOT IN (0, 1)) OR (r.use_sum=-1 AND "
+                                    "r.use_kode_sum NOT IN (0, 1)) OR c.pinjaman=-1"_s),
+              "");
+    EXPECT_EQ(demoRows(u"SELECT count(DISTINCT no_urut)=count(*), max(length(com_kode)), "
+                       "max(length(com_name))<=30 FROM z_pay_com"_s),
               "1\t3\t1");
-    EXPECT_EQ(demoCompany().rows(u"SELECT count(*) FROM (SELECT emp_id_auto FROM z_pay_grp_emp GROUP BY 1 "
-                                 "HAVING count(*)>1) AS twice"_s),
+    EXPECT_EQ(demoRows(u"SELECT count(*) FROM (SELECT emp_id_auto FROM z_pay_grp_emp GROUP BY 1 "
+                       "HAVING count(*)>1) AS twice"_s),
               "0");
 }
 
 TEST(Company, SomebodyEarnsThePremiumForFullAttendance) {
-    EXPECT_EQ(demoCompany().rows(uR"(
+    EXPECT_EQ(demoRows(uR"(
         SELECT count(*) > 3 FROM (
           SELECT emp_id_auto, sum(n) AS days FROM (
             SELECT emp_id_auto, count(*) AS n FROM shift_result
@@ -173,7 +123,7 @@ TEST(Company, SomebodyEarnsThePremiumForFullAttendance) {
 }
 
 TEST(Company, LoansSchedulesAndPaymentsAgree) {
-    EXPECT_EQ(demoCompany().rows(uR"(
+    EXPECT_EQ(demoRows(uR"(
         SELECT m.id_kredit FROM zx_kredit_m AS m JOIN (
           SELECT id_kredit, count(*) AS n, sum(debet) AS debet, sum(angs_pokok) AS pokok, sum(bunga) AS bunga,
                  min(tgl_jt) AS first, sum(saldo_akh=0) AS zero, sum(proses_bayar=-1) AS paid
@@ -185,7 +135,7 @@ TEST(Company, LoansSchedulesAndPaymentsAgree) {
            OR d.paid<>ifnull(b.n, 0) OR m.status<>if(d.paid>0, -1, 0) OR m.status_lunas<>if(d.paid=d.n, -1, 0)
            OR b.low<>m.status_lunas OR b.high<>m.status_lunas)"_s),
               "");
-    EXPECT_EQ(demoCompany().rows(uR"(
+    EXPECT_EQ(demoRows(uR"(
         SELECT b.id_bayar FROM zx_bayar_kredit AS b LEFT JOIN zx_kredit_d AS d USING (id_kredit, no_urut)
         WHERE d.proses_bayar IS NULL OR d.proses_bayar<>-1 OR b.debet<>d.debet OR b.tgl_jt<>d.tgl_jt
            OR b.angs_pokok<>d.angs_pokok OR b.bunga<>d.bunga)"_s),
@@ -193,15 +143,15 @@ TEST(Company, LoansSchedulesAndPaymentsAgree) {
 }
 
 TEST(Company, AFinishedOneIsKeptAndItsLanguageChanged) {
-    Company& company = demoCompany();
-    EXPECT_TRUE(company::exists(company.settings()));
-    EXPECT_THROW(company::generate(company.settings(), demo()), db::Fault);
-    EXPECT_TRUE(company::exists(company.settings()));
-    company::setLanguage(company.settings(), u"english"_s);
-    EXPECT_EQ(company.appRows(u"SELECT param_value FROM global_setting WHERE param_id='default_lang'"_s), "english");
-    company::setLanguage(company.settings(), u"indonesia"_s);
+    const db::ConnectionSettings& settings = demoCompany().mainSettings();
+    EXPECT_THROW(company::generate(settings, demo()), db::Fault);
+    EXPECT_TRUE(company::exists(settings));
+    company::setLanguage(settings, u"english"_s);
+    EXPECT_EQ(demoCompany().rowsApp(u"SELECT param_value FROM global_setting WHERE param_id='default_lang'"_s),
+              QStringList{u"english"_s});
+    company::setLanguage(settings, u"indonesia"_s);
 
-    db::ConnectionSettings missing = company.settings();
+    db::ConnectionSettings missing = settings;
     missing.database += u"_none"_s;
     EXPECT_FALSE(company::exists(missing));
 }
@@ -209,8 +159,8 @@ TEST(Company, AFinishedOneIsKeptAndItsLanguageChanged) {
 TEST(Company, OneEmployeeForOneMonthIsACompanyToo) {
     company::Options smallest = demo();
     smallest.employees = smallest.months = 1;
-    EXPECT_EQ(Company(smallest).rows(u"SELECT (SELECT count(*) FROM emp), (SELECT count(*) FROM zx_kredit_m)"_s),
-              "2\t0");
+    EXPECT_EQ(TestDatabase(smallest).rows(u"SELECT (SELECT count(*) FROM emp), (SELECT count(*) FROM zx_kredit_m)"_s),
+              QStringList{u"2\t0"_s});
 }
 
 } // namespace

