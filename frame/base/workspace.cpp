@@ -25,13 +25,7 @@ void Workspace::showEvent(QShowEvent* event) {
     if (event->spontaneous() || !std::exchange(m_firstActivation, false))
         return;
     QMetaObject::invokeMethod(
-        this,
-        [this] {
-            // Not to wait for the timer's first beat keeps the panels from flashing up beside the workspace.
-            Q_EMIT coversPanels();
-            runHandler(this, [this] { FormActivate(); });
-        },
-        Qt::QueuedConnection);
+        this, [this] { runHandler(this, [this] { FormActivate(); }); }, Qt::QueuedConnection);
 }
 
 void Workspace::closeEvent(QCloseEvent* event) {

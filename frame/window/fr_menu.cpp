@@ -219,6 +219,8 @@ void Tfrm_menu::openWorkspace(Icon icon) {
             m_workspace = nullptr;
         showRecap(true);
     });
+    // Recap and workspace side by side, were it for a moment, would make the frame grow beyond a small screen.
+    showRecap(false);
     m_ui->lay_frame->addWidget(m_workspace, 1);
     m_workspace->show();
 }

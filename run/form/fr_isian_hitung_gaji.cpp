@@ -184,6 +184,9 @@ void Tfrm_isian_hitung_gaji::siapkan_baru() {
     m_ui->dtp_bulan->setDisplayFormat(QStringLiteral("MMMM yyyy"));
     m_ui->dtp_bulan->setDate(today);
     chb_kreditClick();
+    m_ui->lbl_total->setText(groupedInteger(0));
+    FitGridColumns(*m_ui->dbg_d);
+    FitGridColumns(*m_ui->dbg_sd);
     m_ui->dbe_nama->setFocus();
 }
 

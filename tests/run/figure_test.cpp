@@ -113,18 +113,59 @@ protected:
 
 /// What every setting leaves alone: day statuses of employee 7.
 const std::string statuses = " 5=2 6=1 7=2 8=1 9=1 10=1 11=1 12=2";
+const std::string sumsOfEmployee7 = "1=1.75 2=1.75 3=-0.26 4=30" + statuses +
+                                    " 13=14 14=3.5 15=4 16=0.12 18=11 19=19 20=12 21=5 22=1 23=3.5 24=7.5 25=10 26=2.5 "
+                                    "27=6.5 28=4.5 50=6";
 
 } // namespace
 
 TEST_F(Figures, AreAmountsWhereTheSettingsAreMissingOrAskForSums) {
-    const std::string amounts = "1=1.75 2=1.75 3=-0.26 4=30" + statuses +
-                                " 13=14 14=3.5 15=4 16=0.12 18=11 19=19 20=12 21=5 22=1 23=3.5 24=7.5 25=10 26=2.5 "
-                                "27=6.5 28=4.5 50=6";
-    expectBoth(7, amounts);
+    expectBoth(7, sumsOfEmployee7);
     run(u"insert into sum_report values (1,1),(2,3),(3,0),(4,3),(13,null),(14,2),(15,2),(16,1)"_s);
-    expectBoth(7, amounts);
+    expectBoth(7, sumsOfEmployee7);
     expectBoth(9, "4=3 18=2 19=1 20=2 21=1 22=3");
     expectBoth(5, "");
+}
+
+TEST_F(Figures, FollowTheirOwnSettingAlone) {
+    const struct {
+        const char* setting;
+        std::vector<std::pair<std::string, std::string>> changed; ///< amount and count of each figure that it switches
+    } cases[] = {
+        {"(1,2)", {{"1=1.75", "1=3"}}},
+        {"(2,2)", {{"2=1.75", "2=2"}}},
+        {"(3,2)", {{"3=-0.26", "3=1"}}},
+        {"(4,2)",
+         {{"4=30", "4=5"},
+          {"18=11", "18=2"},
+          {"19=19", "19=3"},
+          {"20=12", "20=2"},
+          {"21=5", "21=1"},
+          {"50=6", "50=3"}}},
+        {"(13,2)",
+         {{"13=14", "13=5"},
+          {"23=3.5", "23=2"},
+          {"24=7.5", "24=2"},
+          {"25=10", "25=2"},
+          {"26=2.5", "26=1"},
+          {"27=6.5", "27=2"},
+          {"28=4.5", "28=2"}}},
+        {"(14,3)", {{"14=3.5", "14=2"}}},
+        {"(15,3)", {{"15=4", "15=1"}}},
+        {"(16,3)", {{"16=0.12", "16=1"}}},
+    };
+    for (const auto& [setting, changed] : cases) {
+        SCOPED_TRACE(setting);
+        run(u"delete from sum_report"_s);
+        run(u"insert into sum_report values "_s + QString::fromLatin1(setting));
+        std::string expected = ' ' + sumsOfEmployee7;
+        for (const auto& [amount, count] : changed) {
+            const std::size_t at = expected.find(' ' + amount);
+            ASSERT_NE(at, std::string::npos) << amount;
+            expected.replace(at + 1, amount.size(), count);
+        }
+        expectBoth(7, expected.substr(1));
+    }
 }
 
 TEST_F(Figures, CountRowsWhereTheSettingsSaySo) {

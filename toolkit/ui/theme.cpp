@@ -1,6 +1,8 @@
 #include "toolkit/ui/theme.h"
 
 #include <QApplication>
+#include <QDateTimeEdit>
+#include <QEvent>
 #include <QPalette>
 #include <QStyleFactory>
 
@@ -30,10 +32,26 @@ constexpr char16_t sheet[] = uR"(
     QStatusBar::item { border-right: 1px solid #c3ccd4; }
 )";
 
+/// With a calendar the style draws a wider arrow than the hint of a date edit has room for; in a large font the last
+/// digit lies under it.
+class DateRoom final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        auto* edit = event->type() == QEvent::Show ? qobject_cast<QDateTimeEdit*>(watched) : nullptr;
+        if (edit)
+            edit->setMinimumWidth(edit->sizeHint().width() + 2 * edit->fontMetrics().averageCharWidth());
+        return false;
+    }
+};
+
 } // namespace
 
 void applyTheme(QApplication& application) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(lightPalette());
+    application.installEventFilter(new DateRoom(&application));
     application.setStyleSheet(QString::fromUtf16(sheet));
 }
