@@ -18,6 +18,7 @@ click btn_select_all2
 click chb_kredit
 click btn_proses
 get lbl_total
+grid dbg_d
 shot 05-isian-terhitung.png
 click btn_simpan
 set dtp_tgl_aw @AWAL@

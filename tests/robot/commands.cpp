@@ -135,6 +135,7 @@ const Actions& actions() {
                   r.dialogs().queueAnswer(wholeNumber(word));
           }}},
         {u"input"_qs, {1, 1, [](Robot& r, const Words& w) { r.dialogs().queueInput(w[0]); }}},
+        {u"file"_qs, {1, 1, [](Robot& r, const Words& w) { r.dialogs().queueFile(w[0]); }}},
         {u"key"_qs,
          {1, 1,
           [](Robot& r, const Words& w) {

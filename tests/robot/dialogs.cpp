@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QEvent>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QPointer>
 #include <QtTest/qtestkeyboard.h>
@@ -34,6 +35,8 @@ bool DialogAnswers::eventFilter(QObject* watched, QEvent* event) {
         later(message, &DialogAnswers::answer);
     else if (auto* input = qobject_cast<InputWindow*>(watched))
         later(input, &DialogAnswers::enter);
+    else if (auto* file = qobject_cast<QFileDialog*>(watched))
+        later(file, &DialogAnswers::choose);
     return false;
 }
 
@@ -69,4 +72,19 @@ void DialogAnswers::enter(InputWindow* window) {
     Robot::print(subject + QStringLiteral(" -> ") + quoted(text));
     typeText(window->edit(), text);
     QTest::keyClick(window->edit(), Qt::Key_Return);
+}
+
+void DialogAnswers::choose(QFileDialog* dialog) {
+    if (m_files.isEmpty()) {
+        Q_EMIT failed(QStringLiteral("no path queued for: %1").arg(dialog->windowTitle()));
+        return;
+    }
+    const QString path = m_files.dequeue();
+    if (path == QLatin1String("!")) {
+        QTest::keyClick(dialog, Qt::Key_Escape);
+        return;
+    }
+    auto* edit = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+    typeText(edit, path);
+    QTest::keyClick(edit, Qt::Key_Return);
 }

@@ -4,6 +4,8 @@
 #include <QQueue>
 #include <QStringList>
 
+class QFileDialog;
+
 class InputWindow;
 class MessageWindow;
 
@@ -17,11 +19,13 @@ public:
     void queueAnswer(int result) { m_answers.enqueue(result); }
     /// "!" cancels the dialog.
     void queueInput(const QString& text) { m_inputs.enqueue(text); }
+    /// A path for the next open or save dialog; "!" cancels it.
+    void queueFile(const QString& path) { m_files.enqueue(path); }
     /// True while a dialog that will be answered is on the screen.
     [[nodiscard]] bool isAnswering() const { return m_answering > 0; }
 
 Q_SIGNALS:
-    /// A question or an input dialog came with nothing queued, or an answer that the dialog has no button for.
+    /// A question, an input or a file dialog came with nothing queued, or an answer that the dialog has no button for.
     void failed(const QString& why);
 
 protected:
@@ -30,8 +34,10 @@ protected:
 private:
     void answer(MessageWindow* window);
     void enter(InputWindow* window);
+    void choose(QFileDialog* dialog);
 
     QQueue<int> m_answers;
     QQueue<QString> m_inputs;
+    QQueue<QString> m_files;
     int m_answering = 0;
 };

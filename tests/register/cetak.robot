@@ -1,0 +1,38 @@
+# The menu of papers: nothing ticked, the three papers of one run, a PDF through the save dialog, an empty run.
+#: options --user hrd --now "2026-11-05 08:15"
+#: app-file app.sql
+#: main-file company.sql
+#: main insert into z_pay_process_m (process_id, process_name, date1, date2, tot_process) values
+#:+   (1, 'Oktober', '2026-10-10', '2026-10-31', 3170000), (2, 'Kosong', '2026-10-10', '2026-10-31', 0);
+#:+ insert into z_pay_process_d (process_id, no_urut, emp_id_auto, tot_payroll) values (1, 1, 3, 3170000);
+#:+ insert into z_pay_process_sd (process_id, no_urut, no_urut_ref, emp_id_auto, com_id, subtot_payroll, jml_faktor, kondisi) values
+#:+   (1, 1, 1, 3, 10, 3000000, 1, '* 3.000.000'), (1, 1, 2, 3, 50, 250000, 2.5, ''), (1, 1, 3, 3, 40, 80000, 2, ' x Angsuran')
+start
+click Image2
+click btn_cetak
+menu "Rekap penggajian"
+tick dbg_m process_name=Oktober
+click btn_cetak
+menu "Rekap penggajian"
+forms
+report
+close frm_preview
+click btn_cetak
+menu "Rincian penggajian"
+report
+close frm_preview
+click btn_cetak
+menu "Slip penggajian"
+report
+file slip.pdf
+click btn_simpan
+file !
+click btn_simpan
+close frm_preview
+click btn_invert
+click btn_cetak
+menu "Rekap penggajian"
+forms
+click btn_cetak
+menu "Slip penggajian"
+report
