@@ -61,7 +61,7 @@ Tfrm_preview::Tfrm_preview(report::Document document, QWidget* parent) :
     ui->pv_halaman->setDocument(std::move(document));
     const int count = ui->pv_halaman->pageCount();
     ui->lbl_jumlah->setText(QString::number(count));
-    ui->edt_halaman->setValidator(new QIntValidator(1, count, this));
+    ui->edt_halaman->setValidator(new QIntValidator(0, 999999, this));
     pageChanged(1);
 }
 
@@ -151,6 +151,8 @@ void Tfrm_preview::cmb_zoomChange(int index) {
 
 void Tfrm_preview::edt_halamanExit() {
     ui->pv_halaman->goToPage(ui->edt_halaman->text().toInt());
+    // A number beyond the report leads to its first or last page, and the box tells which.
+    ui->edt_halaman->setText(QString::number(ui->pv_halaman->currentPage()));
 }
 
 void Tfrm_preview::pageChanged(int number) {
