@@ -24,9 +24,9 @@ constexpr double middleX = innerWidth / 2;
 
 // A line of either list, counted from the left edge of its half.
 constexpr Place kode{.x = 0, .width = 10};
-constexpr Place komponen{.x = 11, .width = 25};
-constexpr Place faktor{.x = 36.6, .width = 16.8};
-constexpr Place kondisi{.x = 54.6, .width = 17.6};
+constexpr Place komponen{.x = 11, .width = 27.5};
+constexpr Place faktor{.x = 39, .width = 16.8};
+constexpr Place kondisi{.x = 56.6, .width = 16.8};
 constexpr Place sama{.x = 73.6, .width = 2.6};
 constexpr Place uang{.x = 76.2, .width = halfWidth - 76.2};
 constexpr Place jumlah{.x = 0, .width = 70};
