@@ -173,14 +173,17 @@ QString statementForAll(const std::vector<BulkColumn>& columns, Grouping groupin
     QStringList conditions{u"%1>=:tanggal_awal and %1<:tanggal_akhir"_s.arg(date)};
     if (!table.conditions.isEmpty())
         conditions << table.conditions;
-    // The employees come first and the dates are compared bare, so that an index over both is used; DATE() around a
-    // column would hide it.
+    // Employees and holidays come first and the dates of attendance are compared bare, so that an index over both is
+    // used; DATE() around a column would hide it.
+    const bool onHolidays = first.holidays == Holidays::Only;
+    const QString holidays = u" inner join (select DATE(holiday_date) as holiday_date from holiday where %1) as h"_s.arg(
+        window(u"holiday_date"_s));
     return u"select straight_join %1, %2 as hari"_s.arg(employee,
                                                         byDay ? u"DATEDIFF(%1, :tanggal_awal)"_s.arg(date) : u"0"_s) +
-           values +
-           u" from (%1) as anggota inner join %2 on %3=anggota.emp_id_auto"_s.arg(employees, from(table), employee) +
-           holidayJoin(first) + table.setting + u" where "_s + conditions.join(" and "_L1) + u" group by "_s +
-           employee + (byDay ? u", hari"_s : QString());
+           values + u" from (%1) as anggota"_s.arg(employees) + (onHolidays ? holidays : QString()) +
+           u" inner join %1 on %2=anggota.emp_id_auto"_s.arg(from(table), employee) +
+           (onHolidays ? u" and %1=h.holiday_date"_s.arg(date) : QString()) + table.setting + u" where "_s +
+           conditions.join(" and "_L1) + u" group by "_s + employee + (byDay ? u", hari"_s : QString());
 }
 
 } // namespace run

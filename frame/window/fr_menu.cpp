@@ -46,18 +46,17 @@ Tfrm_menu::~Tfrm_menu() = default;
 
 void Tfrm_menu::setUpRecap() {
     m_ui->dbg_rekap->setColumns(recap::columns(), recap::bands());
-    m_ui->dbg_rekap->setCellColour([this](const CellInView& cell) { return recap::cellColour(m_colours, cell); });
+    m_ui->dbg_rekap->setCellColour([this](const CellInView& cell) { return dbg_rekapCustomDrawCell(cell); });
     m_ui->dbg_rekap->setEnabled(false);
 }
 
 void Tfrm_menu::connectHandlers() {
-    const std::array images{m_ui->Image1, m_ui->Image2, m_ui->Image3};
-    const std::array labels{m_ui->lbl_1, m_ui->lbl_2, m_ui->lbl_3};
-    for (const Icon icon : {KomponenGaji, ProsesPenggajian, PinjamanKaryawan}) {
-        const auto open = [this, icon] { runHandler(this, [this, icon] { openWorkspace(icon); }); };
-        connect(images[icon], &MagnifyingImage::clicked, this, open);
-        connect(labels[icon], &ClickLabel::clicked, this, open);
-    }
+    onEvent(m_ui->Image1, &MagnifyingImage::clicked, this, &Tfrm_menu::Image1Click);
+    onEvent(m_ui->lbl_1, &ClickLabel::clicked, this, &Tfrm_menu::Image1Click);
+    onEvent(m_ui->Image2, &MagnifyingImage::clicked, this, &Tfrm_menu::Image2Click);
+    onEvent(m_ui->lbl_2, &ClickLabel::clicked, this, &Tfrm_menu::Image2Click);
+    onEvent(m_ui->Image3, &MagnifyingImage::clicked, this, &Tfrm_menu::Image3Click);
+    onEvent(m_ui->lbl_3, &ClickLabel::clicked, this, &Tfrm_menu::Image3Click);
     onEvent(m_ui->filter, &frame::FilterBlock::searchWanted, this, &Tfrm_menu::btn_cariClick);
     onEvent(m_ui->filter, &frame::FilterBlock::valueChosen, this, &Tfrm_menu::criteriaChosen);
     onEvent(m_ui->btn_userlog, &QPushButton::clicked, this, &Tfrm_menu::btn_userlogClick);
@@ -107,6 +106,9 @@ void Tfrm_menu::FormActivate() {
         return;
     m_services.language.ApplyLanguage(*this);
     read_change_lang();
+    // Laid out anew with the texts of the language.
+    m_ui->pnl_tengah->hide();
+    m_ui->pnl_tengah->show();
     m_ui->filter->fillTree();
     m_ui->filter->openLookups();
     read_periode();

@@ -52,8 +52,14 @@ protected:
 
 private:
     void FormActivate();
+    void Image1Click() { openWorkspace(KomponenGaji); }
+    void Image2Click() { openWorkspace(ProsesPenggajian); }
+    void Image3Click() { openWorkspace(PinjamanKaryawan); }
     void btn_cariClick();
     void btn_userlogClick();
+    [[nodiscard]] QColor dbg_rekapCustomDrawCell(const CellInView& cell) const {
+        return recap::cellColour(m_colours, cell);
+    }
     void Timer1Timer();
     void criteriaChosen();
 

@@ -6,6 +6,7 @@
 #include "toolkit/ui/colour_text.h"
 
 #include <array>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -17,6 +18,24 @@ QString valueOf(frame::Session& session, QLatin1String key) {
     session.sql_temp_lang.openSql(u"Select * from global_setting where param_id='"_s + key + u"' "_s);
     return session.sql_temp_lang.text(u"param_value"_s);
 }
+
+constexpr std::pair<QLatin1String, bool ColourSettings::*> flags[] = {
+    {setting::clTerlambatSet, &ColourSettings::cl_terlambat_set},
+    {setting::clCepatSet, &ColourSettings::cl_cepat_set},
+    {setting::clAbsenSet, &ColourSettings::cl_absen_set},
+    {setting::clAbsenIzinSet, &ColourSettings::cl_absen_izin_set},
+    {setting::clLiburSet, &ColourSettings::cl_libur_set},
+    {setting::clTampilGridSet, &ColourSettings::cl_tampil_grid_set},
+    {setting::clTampilCetakSet, &ColourSettings::cl_tampil_cetak_set},
+};
+
+constexpr std::pair<QLatin1String, QColor ColourSettings::*> colours[] = {
+    {setting::clTerlambat, &ColourSettings::cl_terlambat},
+    {setting::clCepat, &ColourSettings::cl_cepat},
+    {setting::clAbsen, &ColourSettings::cl_absen},
+    {setting::clAbsenIzin, &ColourSettings::cl_absen_izin},
+    {setting::clLibur, &ColourSettings::cl_libur},
+};
 
 enum class Coloured { FromOne, AtZero };
 
@@ -43,20 +62,13 @@ constexpr std::array rules{
 
 ColourSettings readColourSettings(frame::Session& session) {
     ColourSettings settings;
-    const auto readFlag = [&](QLatin1String key, bool& flag) {
-        data::dropFault("a colour setting", [&] { flag = boolFromText(valueOf(session, key)); });
+    const auto read = [&](QLatin1String key, auto& field, auto fromText) {
+        data::dropFault("a colour setting", [&] { field = fromText(valueOf(session, key)); });
     };
-    const auto readColour = [&](QLatin1String key, QColor& colour) {
-        data::dropFault("a colour setting", [&] { colour = colourFromText(valueOf(session, key)); });
-    };
-    readFlag(setting::clTampilGridSet, settings.cl_tampil_grid_set);
-    readFlag(setting::clTerlambatSet, settings.cl_terlambat_set);
-    readFlag(setting::clCepatSet, settings.cl_cepat_set);
-    readColour(setting::clTerlambat, settings.cl_terlambat);
-    readColour(setting::clCepat, settings.cl_cepat);
-    readColour(setting::clAbsen, settings.cl_absen);
-    readColour(setting::clAbsenIzin, settings.cl_absen_izin);
-    readColour(setting::clLibur, settings.cl_libur);
+    for (const auto& [key, flag] : flags)
+        read(key, settings.*flag, boolFromText);
+    for (const auto& [key, colour] : colours)
+        read(key, settings.*colour, colourFromText);
     return settings;
 }
 

@@ -10,6 +10,11 @@ struct ColourSettings {
     bool cl_tampil_grid_set = false; ///< nothing is coloured without it
     bool cl_terlambat_set = false;
     bool cl_cepat_set = false; ///< leaving early, and all kinds of absence
+    /// The suite offers these four as well; here they switch nothing.
+    bool cl_absen_set = false;
+    bool cl_absen_izin_set = false;
+    bool cl_libur_set = false;
+    bool cl_tampil_cetak_set = false;
     QColor cl_terlambat = Qt::black;
     QColor cl_cepat = Qt::black;
     QColor cl_absen = Qt::black;
