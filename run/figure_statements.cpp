@@ -8,6 +8,9 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
+/// Whose rows a derived table reads.
+enum class Rows { OfEveryone, OfTheEmployee };
+
 bool isFreeHours(const Figure& figure) {
     return figure.id_kode_report == figureJamBebas;
 }
@@ -68,6 +71,24 @@ QString partColumn(const Figure& figure, const FigurePart& part) {
     return figure.parts.size() > 1 ? u", %1 as bagian"_s.arg(&part - figure.parts.data()) : QString();
 }
 
+// The select of a derived table with one row per employee: the rounded sum of the amounts, or the number of rows.
+
+QString amountSelect(const Figure& figure, const FigurePart& part, Rows rows) {
+    const QString employee = column(*part.table, "emp_id_auto"_L1);
+    const QString join = holidayJoin(part) + part.table->setting;
+    return u"select %1, %2 as %3"_s.arg(employee, filled(part.amount, {}), figure.value) + partColumn(figure, part) +
+           u" from %1%2 where %3 group by %4 "_s.arg(from(*part.table), join, where(part, rows), employee);
+}
+
+QString daysSelect(const Figure& figure, const FigurePart& part, Rows rows) {
+    const QString employee = column(*part.table, "emp_id_auto"_L1);
+    const QString date = dateColumn(*part.table);
+    const QString perDate = u"select %1, %2, %3 as %4 from %5%6 where %7 group by %1, %2 "_s.arg(
+        employee, date, filled(part.days, {}), figure.value, from(*part.table), holidayJoin(part), where(part, rows));
+    return u"select emp_id_auto, %1, round(sum(%2),2) as %2"_s.arg(part.table->date, figure.value) +
+           partColumn(figure, part) + u" from (%1) as %2 group by emp_id_auto "_s.arg(perDate, figure.alias);
+}
+
 QString joined(const Figure& figure, QString (*select)(const Figure&, const FigurePart&, Rows), const QString& alias) {
     // The figures that follow the attendance setting have no employee test inside: the outer one picks the row.
     const bool forEveryone = figure.countSwitch.sum_id == attendanceSwitch.sum_id;
@@ -104,22 +125,6 @@ QString settingsJoins(const Figure& figure) {
 }
 
 } // namespace
-
-QString amountSelect(const Figure& figure, const FigurePart& part, Rows rows) {
-    const QString employee = column(*part.table, "emp_id_auto"_L1);
-    const QString join = holidayJoin(part) + part.table->setting;
-    return u"select %1, %2 as %3"_s.arg(employee, filled(part.amount, {}), figure.value) + partColumn(figure, part) +
-           u" from %1%2 where %3 group by %4 "_s.arg(from(*part.table), join, where(part, rows), employee);
-}
-
-QString daysSelect(const Figure& figure, const FigurePart& part, Rows rows) {
-    const QString employee = column(*part.table, "emp_id_auto"_L1);
-    const QString date = dateColumn(*part.table);
-    const QString perDate = u"select %1, %2, %3 as %4 from %5%6 where %7 group by %1, %2 "_s.arg(
-        employee, date, filled(part.days, {}), figure.value, from(*part.table), holidayJoin(part), where(part, rows));
-    return u"select emp_id_auto, %1, round(sum(%2),2) as %2"_s.arg(part.table->date, figure.value) +
-           partColumn(figure, part) + u" from (%1) as %2 group by emp_id_auto "_s.arg(perDate, figure.alias);
-}
 
 QString statementForEmployee(const Figure& figure) {
     const bool alwaysCounted = figure.countSwitch.sum_id == 0;
@@ -176,8 +181,9 @@ QString statementForAll(const std::vector<BulkColumn>& columns, Grouping groupin
     // Employees and holidays come first and the dates of attendance are compared bare, so that an index over both is
     // used; DATE() around a column would hide it.
     const bool onHolidays = first.holidays == Holidays::Only;
-    const QString holidays = u" inner join (select DATE(holiday_date) as holiday_date from holiday where %1) as h"_s.arg(
-        window(u"holiday_date"_s));
+    const QString holidays =
+        u" inner join (select DATE(holiday_date) as holiday_date from holiday where %1) as h"_s.arg(
+            window(u"holiday_date"_s));
     return u"select straight_join %1, %2 as hari"_s.arg(employee,
                                                         byDay ? u"DATEDIFF(%1, :tanggal_awal)"_s.arg(date) : u"0"_s) +
            values + u" from (%1) as anggota"_s.arg(employees) + (onHolidays ? holidays : QString()) +

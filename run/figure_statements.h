@@ -12,13 +12,6 @@ namespace run {
 // Statements of attendance figures, all built from the definitions in figures.h. Named parameters: :tanggal_awal is the
 // first day, :tanggal_akhir the day after the last one, :emp_id_auto the employee.
 
-/// Whose rows a derived table reads.
-enum class Rows { OfEveryone, OfTheEmployee };
-
-/// The select of a derived table with one row per employee: the rounded sum of the amounts, or the number of rows.
-[[nodiscard]] QString amountSelect(const Figure& figure, const FigurePart& part, Rows rows);
-[[nodiscard]] QString daysSelect(const Figure& figure, const FigurePart& part, Rows rows);
-
 /// One figure of one employee over one window: its result column stands in the first row.
 [[nodiscard]] QString statementForEmployee(const Figure& figure);
 

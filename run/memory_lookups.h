@@ -58,7 +58,7 @@ struct FigureRead {
     }
 };
 
-/// Values by employee, in the order of MemoryLookups::employees, and within an employee by day.
+/// Values by employee, in the order of LookupTables::places, and within an employee by day.
 using FigureValues = std::vector<double>;
 
 using RulesByComponent = QHash<std::pair<int, int>, std::vector<Rule>>;     ///< by grp_id and com_id

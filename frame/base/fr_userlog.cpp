@@ -1,5 +1,6 @@
 #include "frame/base/fr_userlog.h"
 
+#include "schema/settings_keys.h"
 #include "toolkit/text/sql_text.h"
 #include "toolkit/ui/caption.h"
 #include "toolkit/ui/handler.h"
@@ -81,7 +82,8 @@ void Tfrm_userlog::set_tanggal() {
 
 void Tfrm_userlog::set_modul() {
     data::SqlQuery& sql = m_services.session.sql_temp_lang;
-    sql.openSql(QStringLiteral("select * from global_setting where param_id='use_payroll_module' "));
+    sql.openSql(QStringLiteral("select * from global_setting where param_id='") + setting::usePayrollModule +
+                QLatin1String("' "));
     if (sql.text(u"param_value") == QLatin1String("-1") || m_ui->cmb_modul->count() <= frame::payrollModule)
         return;
     const bool wasChosen = m_ui->cmb_modul->currentIndex() == frame::payrollModule;

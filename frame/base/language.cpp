@@ -1,5 +1,6 @@
 #include "frame/base/language.h"
 
+#include "schema/settings_keys.h"
 #include "toolkit/data/drop_fault.h"
 #include "toolkit/text/sql_text.h"
 #include "toolkit/ui/grid_column.h"
@@ -97,7 +98,8 @@ void Language::ApplyLanguage(QWidget& form) {
 
 void Language::applyRows(QWidget& form) {
     data::SqlQuery& sql = m_session.sql_temp_lang;
-    sql.openSql(QStringLiteral("select param_value from global_setting where param_id='default_lang' "));
+    sql.openSql(QStringLiteral("select param_value from global_setting where param_id='") + setting::defaultLang +
+                QLatin1String("' "));
     m_lang_column = sql.text(u"param_value");
     sql.openSql(QStringLiteral("select * from change_lang where com_form=") + quotedSqlText(form.objectName()) + u' ');
     for (; !sql.isEof(); sql.next()) {

@@ -129,7 +129,8 @@ void Tfrm_menu::closeEvent(QCloseEvent* event) {
 
 void Tfrm_menu::read_change_lang() {
     data::SqlQuery& sql = m_session.sql_cek_lang;
-    sql.openSql(QStringLiteral("select param_value from global_setting where param_id='change_lang' "));
+    sql.openSql(QStringLiteral("select param_value from global_setting where param_id='") + setting::changeLang +
+                QLatin1String("' "));
     m_services.messages.allowEditing(sql.text(u"param_value") != QLatin1String("0"));
 }
 

@@ -30,10 +30,8 @@ constexpr std::pair<QLatin1String, bool ColourSettings::*> flags[] = {
 };
 
 constexpr std::pair<QLatin1String, QColor ColourSettings::*> colours[] = {
-    {setting::clTerlambat, &ColourSettings::cl_terlambat},
-    {setting::clCepat, &ColourSettings::cl_cepat},
-    {setting::clAbsen, &ColourSettings::cl_absen},
-    {setting::clAbsenIzin, &ColourSettings::cl_absen_izin},
+    {setting::clTerlambat, &ColourSettings::cl_terlambat}, {setting::clCepat, &ColourSettings::cl_cepat},
+    {setting::clAbsen, &ColourSettings::cl_absen},         {setting::clAbsenIzin, &ColourSettings::cl_absen_izin},
     {setting::clLibur, &ColourSettings::cl_libur},
 };
 
