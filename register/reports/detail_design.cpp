@@ -17,8 +17,8 @@ namespace {
 constexpr Place kode{.x = 4, .width = 20};
 constexpr Place komponen{.x = 26, .width = 64};
 constexpr Place keterangan{.x = 93, .width = 70};
-constexpr Place faktor{.x = 93, .width = 11};
-constexpr Place kondisi{.x = 106, .width = 57};
+constexpr Place faktor{.x = 93, .width = 18};
+constexpr Place kondisi{.x = 113, .width = 50};
 constexpr Place uang{.x = 166, .width = listWidth - 166};
 
 constexpr report::Look bold{.bold = true};

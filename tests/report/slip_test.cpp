@@ -246,7 +246,8 @@ TEST_F(Slip, NoTextRunsIntoItsNeighbour) {
     database.run(u"UPDATE func SET func_name='Kepala Bagian Pengolahan Bahan Baku dan Pengemasan Barang Jadi'"_s);
     database.run(u"UPDATE dept SET dept_name=concat(dept_name, repeat('\\\\Bagian', 12))"_s);
     employee(1, u"Raden Ajeng Siti Nurhaliza Kusumawardhani Puspitasari binti Almarhum Haji Muhammad Syarifuddin"_s);
-    pay(1, 1, 2147483647, {{1, 2147483647, u"1.5 * 123.456.789"_s, 1234.25}, {9, 999999999, u"* 99.999.999"_s, 744.5}});
+    pay(1, 1, 2147483647,
+        {{1, 2147483647, u"1.5 * 123.456.789"_s, 1234567.25}, {9, 999999999, u"* 99.999.999"_s, 744.5}});
     report::TypeSetter type;
     for (const report::Document& document :
          {reports.SlipGaji(runs({1})), reports.RincianPenggajian(runs({1})), *reports.RekapPenggajian(runs({1}))})
