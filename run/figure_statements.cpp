@@ -38,14 +38,14 @@ QString holidayJoin(const FigurePart& part) {
 }
 
 /// What tells the part's rows from others of its table, window apart.
-QStringList ownConditions(const FigurePart& part) {
+QString ownConditions(const FigurePart& part) {
     QStringList conditions;
     if (!part.conditions.isEmpty())
         conditions << part.conditions;
     if (part.holidays == Holidays::Except)
         conditions << u"DATE(%1) not in (select DATE(holiday_date) from holiday where %2)"_s.arg(
             dateColumn(*part.table), window(u"holiday_date"_s));
-    return conditions;
+    return conditions.join(" and "_L1);
 }
 
 QString where(const FigurePart& part, Rows rows) {
@@ -55,7 +55,9 @@ QString where(const FigurePart& part, Rows rows) {
         conditions << column(table, "emp_id_auto"_L1) + "=:emp_id_auto"_L1;
     if (!table.conditions.isEmpty())
         conditions << table.conditions;
-    conditions << window(dateColumn(table)) << ownConditions(part);
+    conditions << window(dateColumn(table));
+    if (const QString own = ownConditions(part); !own.isEmpty())
+        conditions << own;
     return conditions.join(" and "_L1);
 }
 
@@ -144,17 +146,18 @@ QString statementForEmployee(const Figure& figure) {
 }
 
 BulkColumn bulkColumn(const Figure& figure, const FigurePart& part, const CountSettings& settings) {
-    const auto chosen = [&](const CountSwitch& by) -> QString {
-        const bool counted = by.sum_id == 0 || (settings.contains(by.sum_id) && settings[by.sum_id] == by.sum_as);
-        return counted ? part.days : part.amount;
+    const auto inDays = [&](const CountSwitch& by) {
+        return by.sum_id == 0 || (settings.contains(by.sum_id) && settings[by.sum_id] == by.sum_as);
     };
-    if (isFreeHours(figure))
-        return {&part, u"if(fr.shift_ot=-1, %1, %2)"_s.arg(chosen(overtimeSwitch), chosen(attendanceSwitch))};
-    return {&part, chosen(figure.countSwitch)};
+    if (!isFreeHours(figure))
+        return inDays(figure.countSwitch) ? dayColumn(part) : BulkColumn{&part, ownConditions(part), part.amount};
+    const auto chosen = [&](const CountSwitch& by) -> QString { return inDays(by) ? part.days : part.amount; };
+    return {&part, ownConditions(part),
+            u"if(fr.shift_ot=-1, %1, %2)"_s.arg(chosen(overtimeSwitch), chosen(attendanceSwitch))};
 }
 
 BulkColumn dayColumn(const FigurePart& part) {
-    return {&part, part.days};
+    return {&part, ownConditions(part), part.days, true};
 }
 
 bool shareStatement(const BulkColumn& a, const BulkColumn& b) {
@@ -171,7 +174,7 @@ QString statementForAll(const std::vector<BulkColumn>& columns, Grouping groupin
     const bool byDay = grouping == Grouping::ByEmployeeAndDay;
     QString values;
     for (const BulkColumn& wanted : columns) {
-        const QString value = filled(wanted.expression, ownConditions(*wanted.part).join(" and "_L1));
+        const QString value = filled(wanted.expression, wanted.conditions);
         // A sum over no row is NULL by itself, a count is not.
         values += wanted.expression.startsWith("count"_L1) ? u", nullif(%1, 0)"_s.arg(value) : u", "_s + value;
     }

@@ -18,10 +18,12 @@ namespace run {
 /// sum_id to sum_as, as sum_report holds them.
 using CountSettings = QMap<int, int>;
 
-/// One part of a figure as a column of a bulk statement. The expression has its braces still.
+/// One part of a figure as a column of a bulk statement.
 struct BulkColumn {
     const FigurePart* part = nullptr;
-    QString expression;
+    QString conditions; ///< what tells its rows from others of the table, may be empty
+    QString expression; ///< with its braces still
+    bool inDays = false;
 };
 
 /// The part as the settings want it counted, or in days whatever they say.

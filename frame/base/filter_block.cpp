@@ -2,6 +2,7 @@
 
 #include "frame/base/dept_tree.h"
 #include "toolkit/text/sql_text.h"
+#include "toolkit/ui/enter_key.h"
 #include "toolkit/ui/handler.h"
 #include "ui_filter_block.h"
 
@@ -62,7 +63,13 @@ void FilterBlock::connectControls() {
     connect(m_ui->lookup_jbt, &LookupBox::closedUp, this, guarded(&FilterBlock::lookup_jbtCloseUp));
     connect(m_ui->TCB_dept, &TreeBox::closedUp, this, guarded(&FilterBlock::TCB_deptCloseUp));
     connect(m_ui->btn_cari, &QPushButton::clicked, this, &FilterBlock::searchWanted);
-    connect(m_ui->edt_filter, &QLineEdit::returnPressed, this, &FilterBlock::searchWanted);
+}
+
+void FilterBlock::keyPressEvent(QKeyEvent* event) {
+    if (!isEnter(*event))
+        QWidget::keyPressEvent(event);
+    else if (!pressFocusedButton(*this))
+        Q_EMIT searchWanted();
 }
 
 void FilterBlock::attach(Session& session) {

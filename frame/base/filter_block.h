@@ -62,6 +62,10 @@ Q_SIGNALS:
     /// The user asks for the search.
     void searchWanted();
 
+protected:
+    /// Enter asks for the search from every field of the block.
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     void cmb_filterCloseUp();
     void lookup_cabCloseUp();

@@ -1,9 +1,8 @@
 #include "frame/base/screen.h"
 
+#include "toolkit/ui/enter_key.h"
 #include "toolkit/ui/handler.h"
 
-#include <QKeyEvent>
-#include <QPushButton>
 #include <QScreen>
 #include <QShowEvent>
 
@@ -14,13 +13,12 @@ Screen::Screen(frame::Services& services, QWidget* parent) : QDialog(parent), m_
 }
 
 void Screen::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter(*event) && pressFocusedButton(*this))
+        return;
     const QList<QPushButton*> buttons = findChildren<QPushButton*>();
     const bool hasDefault =
         std::any_of(buttons.begin(), buttons.end(), [](auto* button) { return button->isDefault(); });
-    if (auto* button = qobject_cast<QPushButton*>(focusWidget()); enter && button)
-        button->click();
-    else if (!enter || hasDefault)
+    if (!isEnter(*event) || hasDefault)
         QDialog::keyPressEvent(event);
     else
         focusNextChild();

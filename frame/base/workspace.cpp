@@ -1,14 +1,12 @@
 #include "frame/base/workspace.h"
 
+#include "toolkit/ui/enter_key.h"
 #include "toolkit/ui/handler.h"
 
 #include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QKeyEvent>
 #include <QLabel>
-#include <QPushButton>
-#include <QToolButton>
 
 #include <chrono>
 #include <utility>
@@ -36,12 +34,11 @@ void Workspace::closeEvent(QCloseEvent* event) {
 }
 
 void Workspace::keyPressEvent(QKeyEvent* event) {
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (event->key() == Qt::Key_Escape)
         close();
-    else if (auto* button = qobject_cast<QPushButton*>(focusWidget()); enter && button)
-        button->click();
-    else if (enter && m_defaultButton && !qobject_cast<QAbstractItemView*>(focusWidget()))
+    else if (isEnter(*event) && pressFocusedButton(*this))
+        return;
+    else if (isEnter(*event) && m_defaultButton && !qobject_cast<QAbstractItemView*>(focusWidget()))
         m_defaultButton->click();
     else
         QWidget::keyPressEvent(event);

@@ -6,6 +6,7 @@
 #include "frame/window/recap.h"
 #include "schema/settings_keys.h"
 #include "toolkit/data/drop_fault.h"
+#include "toolkit/ui/enter_key.h"
 #include "toolkit/ui/handler.h"
 #include "toolkit/ui/wait_cursor.h"
 #include "ui_fr_menu.h"
@@ -17,12 +18,17 @@
 #include <chrono>
 #include <utility>
 
+/// The pictures lie in a static library, where nothing else makes the linker keep them.
+static void loadPictures() {
+    Q_INIT_RESOURCE(window);
+}
+
 namespace {
 
 constexpr qreal imageMagnification = 2.0;
 
-/// The per-user value that frees a session from any branch, as an empty one does.
-const QString allBranches = QStringLiteral("{3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}");
+/// The per-user value that leaves a session unlimited, as an empty one does.
+const QString unlimitedUser = QStringLiteral("{3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}");
 
 /// The place in cmb_filter at which employees are ticked one by one; the list ends before it.
 constexpr int criteriaItem = 7;
@@ -32,6 +38,7 @@ constexpr int criteriaItem = 7;
 Tfrm_menu::Tfrm_menu(QString folder, frame::Clock clock, frame::UserSettingReader readUserSetting) :
     m_ui(std::make_unique<Ui::frm_menu>()), m_folder(std::move(folder)), m_readUserSetting(std::move(readUserSetting)),
     m_services(std::move(clock), this) {
+    loadPictures();
     m_ui->setupUi(this);
     m_ui->StatusBar->setPanelCount(panelCount);
     m_ui->filter->attach(m_session);
@@ -115,6 +122,7 @@ void Tfrm_menu::FormActivate() {
     m_colours = recap::readColourSettings(m_session);
     read_session_cab();
     btn_cariClick();
+    m_ui->dtp_tgl_aw->setFocus();
     qCInfo(frame::startLog) << "running";
 }
 
@@ -125,6 +133,13 @@ void Tfrm_menu::closeEvent(QCloseEvent* event) {
     if (sql_rekap)
         sql_rekap->close();
     QMainWindow::closeEvent(event);
+}
+
+void Tfrm_menu::keyPressEvent(QKeyEvent* event) {
+    if (!isEnter(*event))
+        QMainWindow::keyPressEvent(event);
+    else if (!pressFocusedButton(*this) && qobject_cast<QDateEdit*>(focusWidget()) && !m_workspace)
+        runHandler(this, [this] { btn_cariClick(); });
 }
 
 void Tfrm_menu::read_change_lang() {
@@ -151,7 +166,7 @@ void Tfrm_menu::read_periode() {
 
 void Tfrm_menu::read_session_cab() {
     const QString value = m_readUserSetting(QStringLiteral("Admin User ID"));
-    if (value == allBranches || value.trimmed().isEmpty())
+    if (value == unlimitedUser || value.trimmed().isEmpty())
         return;
     m_session.session_cab_id = value.mid(value.indexOf(u':') + 1);
     m_ui->filter->applySessionBranch();

@@ -49,6 +49,8 @@ public:
 protected:
     bool event(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+    /// Enter presses the button in focus; in the period it searches.
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void FormActivate();

@@ -9,11 +9,6 @@
 
 #include <utility>
 
-/// The pictures lie in a static library, where nothing else makes the linker keep them.
-static void loadPictures() {
-    Q_INIT_RESOURCE(window);
-}
-
 namespace window {
 
 namespace {
@@ -45,10 +40,9 @@ bool Program::isAdmitted() {
 }
 
 bool Program::openFrame() {
-    loadPictures();
     QApplication::setApplicationName(QStringLiteral("Orvane Payroll"));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/window/icons/program.svg")));
     m_frame = std::make_unique<Tfrm_menu>(m_environment.folder, m_environment.clock, m_environment.readUserSetting);
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/window/icons/program.svg")));
     if (!m_frame->FormCreate()) {
         qCInfo(frame::startLog) << "ended: no session with the database";
         m_frame.reset();

@@ -1,7 +1,6 @@
 #include "frame/window/recap.h"
 
 #include <algorithm>
-#include <map>
 
 using namespace Qt::StringLiterals;
 
@@ -55,39 +54,14 @@ constexpr RecapFigure figures[] = {
     {"aktiv3"_L1, 16},
 };
 
-const run::FigurePart& everyRow() {
-    static const run::FigurePart part{run::findFigure(1)->parts.front().table, ""_L1, ""_L1, ""_L1};
-    return part;
-}
-
-/// A part with the further condition, and the text that its condition points to.
-struct Narrowed {
-    explicit Narrowed(const run::FigurePart& whole) :
-        conditions(QByteArray("sr.duration>0 and ") + QByteArray(whole.conditions.data(), whole.conditions.size())),
-        part{whole.table, QLatin1String(conditions), whole.amount, whole.days} {}
-
-    QByteArray conditions;
-    run::FigurePart part;
-};
-
-const run::FigurePart& withPresence(const run::FigurePart& part) {
-    static std::map<const run::FigurePart*, Narrowed> narrowed;
-    return narrowed.try_emplace(&part, part).first->second.part;
-}
-
 run::BulkColumn columnOf(const run::Figure& figure, const run::FigurePart& part, Rule rule,
                          const run::CountSettings& settings) {
-    if (rule == Rule::InDays)
-        return run::dayColumn(part);
-    if (rule == Rule::WithPresence)
-        return run::bulkColumn(figure, withPresence(part), settings);
-    run::BulkColumn column = run::bulkColumn(figure, part, settings);
-    if (rule == Rule::AsInRun)
-        return column;
-    if (column.expression == part.amount)
-        column.part = &everyRow();
-    else if (rule == Rule::EveryRowOrPresentDays)
-        column.part = &withPresence(part);
+    run::BulkColumn column = rule == Rule::InDays ? run::dayColumn(part) : run::bulkColumn(figure, part, settings);
+    const bool ofEveryRow = rule == Rule::EveryRow || rule == Rule::EveryRowOrPresentDays;
+    if (ofEveryRow && !column.inDays)
+        column.conditions.clear();
+    else if (rule == Rule::WithPresence || rule == Rule::EveryRowOrPresentDays)
+        column.conditions.prepend("sr.duration>0 and "_L1);
     return column;
 }
 
@@ -168,6 +142,7 @@ QString statement(const QString& condition, const run::CountSettings& settings) 
     return u"with karyawan as ("_s + QString::fromUtf16(employees) + condition + u"),\n"_s +
            tables.definitions(u"select emp_id_auto from karyawan"_s) + u"\nselect distinct k.*, "_s +
            values.join(u", "_s) + u" from karyawan as k"_s + tables.joins() +
+           // The key settles what the other two leave open, so that a search gives the same order each time.
            u" order by col_str, col_num, emp_id_auto "_s;
 }
 

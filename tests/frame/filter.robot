@@ -74,3 +74,23 @@ choose cmb_filter Semua
 state lookup_jbt
 click btn_cari
 grid dbg_rekap
+echo typed: the first Enter closes the list that dropped down, the second searches; the shortcut takes what stands there
+choose cmb_filter Cabang
+type lookup_cab "cabang d'or"
+key Return
+key Return
+grid dbg_rekap
+get lookup_cab
+type lookup_cab Pusat
+key Escape
+key Alt+C
+grid dbg_rekap
+type lookup_cab nowhere
+key Tab
+get lookup_cab
+echo Enter in the period
+type dtp_tgl_aw 01-10-2026
+key Return
+grid dbg_rekap
+echo a half-typed choice does not outlive the frame
+type lookup_cab Pusat

@@ -103,6 +103,17 @@ TEST_F(Filter, AnotherFieldForgetsWhatWasChosenBefore) {
     EXPECT_EQ(byName({FilterBlock::Semua, ""}), " and dept_name like 'PT%' ");
 }
 
+TEST_F(Filter, OfTwoEntriesThatReadAlikeTheChosenOneStays) {
+    company.database.run(QStringLiteral("insert into func values(8, 'Kepala'), (9, 'Kepala')"));
+    block.openLookups();
+    block.select(FilterBlock::Jabatan);
+    auto& box = child<LookupBox>(block, u"lookup_jbt");
+    box.setKey(9);
+    Q_EMIT box.activated(box.currentIndex());
+    Q_EMIT box.lineEdit()->editingFinished();
+    EXPECT_EQ(block.conditionByKey(), QStringLiteral(" and func_id_auto=9 "));
+}
+
 TEST_F(Filter, LimitedSessionKeepsItsBranchAfterEachChange) {
     company.services.session.session_cab_id = QStringLiteral("3");
     EXPECT_EQ(block.baseCondition(), QStringLiteral("where emp_id_auto<>-1 and emp_status=0 and cab_id_auto=3 "));

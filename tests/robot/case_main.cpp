@@ -13,7 +13,6 @@
 
 #include "tests/support/test_database.h"
 
-#include "frame/settings_file/settings_file.h"
 #include "tools/company/generate.h"
 
 #include <QCoreApplication>
@@ -85,13 +84,7 @@ private:
             options.months = words[1].toInt();
         }
         m_database = generated ? std::make_unique<TestDatabase>(options) : std::make_unique<TestDatabase>();
-        const db::ConnectionSettings& server = m_database->mainSettings();
-        settings::writeSettingsFile(m_folder.filePath(QStringLiteral("user.tvk")),
-                                    {.user = server.user,
-                                     .server = QStringLiteral("localhost"),
-                                     .password = server.password,
-                                     .database = server.database,
-                                     .port = server.port});
+        m_database->writeSettingsFile(m_folder.path());
     }
 
     /// What stands behind the word of a directive that holds for the whole case; empty where it is not there.

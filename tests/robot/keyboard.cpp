@@ -2,9 +2,11 @@
 
 #include "tests/robot/script.h"
 
+#include <QComboBox>
 #include <QDateTimeEdit>
 #include <QGuiApplication>
 #include <QKeySequence>
+#include <QLineEdit>
 #include <QWindow>
 #include <QtTest/qtestkeyboard.h>
 #include <QtTest/qtestsystem.h>
@@ -12,6 +14,8 @@
 void typeText(QWidget* control, const QString& text) {
     if (auto* date = qobject_cast<QDateTimeEdit*>(control))
         date->setSelectedSection(date->sectionAt(0));
+    else if (auto* box = qobject_cast<QComboBox*>(control); box && box->isEditable())
+        box->lineEdit()->selectAll();
     else
         QMetaObject::invokeMethod(control, "selectAll");
     if (text.isEmpty())
@@ -22,8 +26,9 @@ void typeText(QWidget* control, const QString& text) {
 
 void pressKeys(QWidget* topmost, const QString& name) {
     const QKeySequence keys(name);
-    // Without a window manager nobody gives the focus back when a dialog has closed.
-    if (!QGuiApplication::focusWindow() && topmost) {
+    // Without a window manager nobody gives the focus back when a dialog or a list has closed.
+    const QWindow* focused = QGuiApplication::focusWindow();
+    if ((!focused || !focused->isVisible()) && topmost) {
         topmost->window()->activateWindow();
         QTest::qWait(20);
     }

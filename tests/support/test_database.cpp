@@ -1,5 +1,6 @@
 #include "tests/support/test_database.h"
 
+#include "frame/settings_file/settings_file.h"
 #include "tools/company/generate.h"
 
 #include <QCoreApplication>
@@ -62,6 +63,15 @@ TestDatabase::~TestDatabase() {
     } catch (const std::exception& fault) {
         qWarning("The test databases stay behind: %s", fault.what());
     }
+}
+
+void TestDatabase::writeSettingsFile(const QString& folder) const {
+    const db::ConnectionSettings& server = mainSettings();
+    settings::writeSettingsFile(folder + QStringLiteral("/user.tvk"), {.user = server.user,
+                                                                       .server = QStringLiteral("localhost"),
+                                                                       .password = server.password,
+                                                                       .database = server.database,
+                                                                       .port = server.port});
 }
 
 qint64 TestDatabase::run(db::Connection& connection, const QString& sql) {

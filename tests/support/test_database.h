@@ -24,6 +24,9 @@ public:
     [[nodiscard]] const db::ConnectionSettings& mainSettings() const { return m_main.settings(); }
     [[nodiscard]] const db::ConnectionSettings& appSettings() const { return m_app.settings(); }
 
+    /// The file that a program in the folder finds the pair by.
+    void writeSettingsFile(const QString& folder) const;
+
     /// Runs the statements, one after the other; they end with a semicolon at the end of a line, the last one may go
     /// without. Gives the number of rows that the last one touched.
     qint64 run(const QString& sql) { return run(m_main, sql); }

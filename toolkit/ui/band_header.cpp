@@ -1,6 +1,7 @@
 #include "toolkit/ui/band_header.h"
 
 #include <QPainter>
+#include <QScrollBar>
 #include <QStyleOptionHeader>
 
 #include <utility>
@@ -9,8 +10,10 @@ BandHeader::BandHeader(QWidget* parent) : QHeaderView(Qt::Horizontal, parent) {
     setDefaultAlignment(Qt::AlignCenter);
     setHighlightSections(false);
     setSectionsClickable(false);
-    // A moved edge changes how wide the band above is.
+    // A moved edge changes how wide the band above is, scrolling where its caption stands.
     connect(this, &QHeaderView::sectionResized, viewport(), qOverload<>(&QWidget::update));
+    if (auto* area = qobject_cast<QAbstractScrollArea*>(parent))
+        connect(area->horizontalScrollBar(), &QScrollBar::valueChanged, viewport(), qOverload<>(&QWidget::update));
 }
 
 void BandHeader::setBands(BandOf bandOf) {
@@ -57,12 +60,15 @@ void BandHeader::paintSection(QPainter* painter, const QRect& rect, int column) 
     QStyleOptionHeader option;
     initStyleOption(&option);
     option.rect = whole;
-    option.text = band->caption();
-    option.textAlignment = Qt::AlignCenter;
     option.section = column;
     option.position = QStyleOptionHeader::Middle;
     painter->save();
     painter->setClipRect(upper);
     style()->drawControl(QStyle::CE_Header, &option, painter, this);
+    // The caption stands over the part that can be seen.
+    option.rect = whole & viewport()->rect();
+    option.text = band->caption();
+    option.textAlignment = Qt::AlignCenter;
+    style()->drawControl(QStyle::CE_HeaderLabel, &option, painter, this);
     painter->restore();
 }

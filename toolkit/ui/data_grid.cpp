@@ -7,12 +7,31 @@
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QSet>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
+
+namespace {
+
+/// Draws a cell in its own colour on the current row, too.
+class CellDelegate final : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+        QStyledItemDelegate::initStyleOption(option, index);
+        if (option->backgroundBrush.style() != Qt::NoBrush)
+            option->state &= ~QStyle::State_Selected;
+    }
+};
+
+} // namespace
 
 DataGrid::DataGrid(QWidget* parent) : QTableView(parent), m_model(new GridModel(this)) {
     setHorizontalHeader(new BandHeader(this));
     setModel(m_model);
+    setItemDelegate(new CellDelegate(this));
     verticalHeader()->hide();
     verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
     verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 6);

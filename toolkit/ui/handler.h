@@ -22,5 +22,10 @@ void runHandler(QWidget* screen, Action&& action) {
 /// Connects a signal with a screen's handler, guarded by runHandler.
 template <typename Sender, typename Signal, typename Screen>
 void onEvent(Sender* sender, Signal signal, Screen* screen, void (Screen::*handler)()) {
-    QObject::connect(sender, signal, screen, [screen, handler] { runHandler(screen, [&] { (screen->*handler)(); }); });
+    // A screen that is being destroyed is no longer of its class when the last of its fields loses the focus.
+    QObject* receiver = screen;
+    QObject::connect(sender, signal, screen, [receiver, handler] {
+        if (auto* alive = qobject_cast<Screen*>(receiver))
+            runHandler(alive, [&] { (alive->*handler)(); });
+    });
 }

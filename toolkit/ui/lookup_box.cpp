@@ -1,5 +1,6 @@
 #include "toolkit/ui/lookup_box.h"
 
+#include <QApplication>
 #include <QCompleter>
 #include <QLineEdit>
 
@@ -11,6 +12,7 @@ LookupBox::LookupBox(QWidget* parent) : QComboBox(parent) {
     completer()->setCompletionMode(QCompleter::PopupCompletion);
     connect(this, &QComboBox::activated, this, &LookupBox::chosen);
     connect(lineEdit(), &QLineEdit::editingFinished, this, &LookupBox::takeTyped);
+    qApp->installEventFilter(this);
 }
 
 void LookupBox::setSource(data::DataSet* set, const QString& keyField, const QString& showField) {
@@ -47,10 +49,19 @@ void LookupBox::chosen() {
     Q_EMIT closedUp();
 }
 
+bool LookupBox::eventFilter(QObject* watched, QEvent* event) {
+    // A shortcut presses its button without taking the focus from here.
+    if (event->type() == QEvent::Shortcut && hasFocus())
+        takeTyped();
+    return QComboBox::eventFilter(watched, event);
+}
+
 void LookupBox::takeTyped() {
-    const int entry = findText(lineEdit()->text(), Qt::MatchFixedString);
-    if (entry == currentIndex() && (entry >= 0 || lineEdit()->text().isEmpty()))
+    const QString typed = lineEdit()->text();
+    // Of entries that read alike the chosen one stays.
+    if (typed == text())
         return;
+    const int entry = findText(typed, Qt::MatchFixedString);
     setCurrentIndex(entry);
     if (entry < 0)
         lineEdit()->clear();

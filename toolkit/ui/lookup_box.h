@@ -18,11 +18,16 @@ public:
     /// Shows the text and makes its first record current; empties the box where there is none.
     void setText(const QString& text);
     void clearChoice() { setCurrentIndex(-1); }
-    [[nodiscard]] QString text() const { return currentIndex() < 0 ? QString() : currentText(); }
+    /// What the chosen entry reads; half-typed text does not count.
+    [[nodiscard]] QString text() const { return itemText(currentIndex()); }
 
 Q_SIGNALS:
     /// The user has chosen an entry or emptied the box.
     void closedUp();
+
+protected:
+    /// Watches the whole program for shortcuts.
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void fill();

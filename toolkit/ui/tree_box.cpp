@@ -14,6 +14,8 @@ TreeBox::TreeBox(QWidget* parent) :
     QComboBox(parent), m_popup(new QFrame(this, Qt::Popup)), m_tree(new QTreeWidget(m_popup)) {
     // The combo's own list holds one entry, the text that is shown; what drops down is the tree.
     addItem(QString());
+    // Pictures no taller than the text: the box stays as high as its neighbours.
+    setIconSize(QSize(fontMetrics().height(), fontMetrics().height()));
     m_popup->setFrameShape(QFrame::StyledPanel);
     // A click on the box that closes the tree must not open it again.
     m_popup->setAttribute(Qt::WA_NoMouseReplay);

@@ -1,0 +1,90 @@
+// The frame itself: whom a session sees, and the search for ticked employees.
+#include "frame/base/filter_block.h"
+#include "frame/window/emp_check_list.h"
+#include "frame/window/fr_menu.h"
+#include "tests/frame/fixture.h"
+#include "toolkit/ui/data_grid.h"
+#include "toolkit/ui/lookup_box.h"
+#include "toolkit/ui/message_dialog.h"
+
+#include <QListWidget>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// A started frame on the company for a user with the per-user value.
+struct Started {
+    Started(const SmallCompany& company, const QString& value) :
+        menu(folder.path(), company.services.session.clock, [value](const QString&) { return value; }) {
+        company.database.writeSettingsFile(folder.path());
+        if (!menu.FormCreate())
+            qFatal("no session");
+        menu.show();
+        if (!QTest::qWaitForWindowActive(&menu))
+            qFatal("not activated");
+    }
+
+    [[nodiscard]] int rowsAfterSearch() {
+        Q_EMIT child<frame::FilterBlock>(menu, u"filter").searchWanted();
+        return child<DataGrid>(menu, u"dbg_rekap").rows().rowCount();
+    }
+
+    QTemporaryDir folder;
+    Tfrm_menu menu;
+};
+
+TEST(SessionBranch, StandsBehindTheFirstColonOfThePerUserValue) {
+    const SmallCompany company;
+    struct Case {
+        const char* value;
+        const char* session_cab_id;
+        const char* branch;
+        int employees;
+    };
+    const Case cases[] = {{"", "0", "", 5},
+                          {"  ", "0", "", 5},
+                          {"{3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}", "0", "", 5},
+                          {"3", "3", "Cabang D'Or", 3},
+                          {"{3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}:1", "1", "Pusat", 2}};
+    for (const Case& one : cases) {
+        Started started(company, QString::fromUtf8(one.value));
+        const auto& lookup_cab = child<LookupBox>(started.menu, u"lookup_cab");
+        EXPECT_EQ(started.menu.session().session_cab_id.toStdString(), one.session_cab_id) << one.value;
+        EXPECT_EQ(lookup_cab.text().toStdString(), one.branch) << one.value;
+        EXPECT_EQ(lookup_cab.isEnabled(), *one.branch == 0) << one.value;
+        EXPECT_EQ(started.rowsAfterSearch(), one.employees) << one.value;
+    }
+}
+
+TEST(CriteriaSearch, FindsUpToTwoHundredTickedEmployees) {
+    SmallCompany company;
+    company.database.run(QStringLiteral("delete from emp where emp_id_auto<>-1;\n"
+                                        "insert into emp(emp_id_auto, pin, dept_id_auto, emp_status) "
+                                        "select seq, seq, 1, 0 from seq_1_to_210"));
+    Started started(company, {});
+    auto& filter = child<frame::FilterBlock>(started.menu, u"filter");
+    const int criteria = filter.addItem(QStringLiteral("Kriteria"), nullptr);
+    filter.select(frame::FilterBlock::Pin);
+    Q_EMIT filter.valueChosen();
+    filter.select(criteria);
+    const auto& clb_emp = child<QListWidget>(started.menu, u"clb_emp");
+    ASSERT_EQ(clb_emp.count(), 210);
+    for (int i = 0; i < 200; ++i)
+        clb_emp.item(i)->setCheckState(Qt::Checked);
+    EXPECT_EQ(started.rowsAfterSearch(), 200);
+    clb_emp.item(200)->setCheckState(Qt::Checked);
+    QString told;
+    QTimer::singleShot(0, &started.menu, [&] {
+        if (auto* window = qobject_cast<MessageWindow*>(QApplication::activeModalWidget())) {
+            told = window->message().text;
+            window->press(MessageOk);
+        }
+    });
+    EXPECT_EQ(started.rowsAfterSearch(), 0);
+    EXPECT_EQ(told, QStringLiteral("Data kriteria maksimal berisi 200 karyawan."));
+}
+
+} // namespace
