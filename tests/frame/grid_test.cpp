@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
+#include <QScrollBar>
 
 #include <gtest/gtest.h>
 
@@ -80,6 +81,42 @@ TEST_F(Grid, ColumnsFitTheWidestOfCaptionAndTexts) {
     FitGridColumns(grid);
     EXPECT_FALSE(grid.isEnabled());
     EXPECT_EQ(grid.columnWidth(0), metrics.horizontalAdvance(u"Nama"_qs) + 27);
+}
+
+TEST_F(Grid, CellsKeepTheirColourOnTheCurrentRow) {
+    grid.setCellColour(
+        [](const CellInView& cell) { return cell.column.objectName() == u"b"_qs ? QColor(Qt::yellow) : QColor(); });
+    grid.setCurrentIndex(grid.model()->index(0, 0));
+    const QImage picture = grid.viewport()->grab().toImage();
+    const auto colourAt = [&](int column) {
+        return picture.pixelColor(grid.visualRect(grid.model()->index(0, column)).topLeft() + QPoint(2, 2));
+    };
+    EXPECT_EQ(colourAt(0), grid.palette().color(QPalette::Highlight));
+    EXPECT_EQ(colourAt(1), QColor(Qt::yellow));
+}
+
+TEST(Bands, CaptionStandsOverThePartThatCanBeSeen) {
+    DataGrid grid;
+    grid.setColumns({{.name = u"a"_qs, .field = u"a"_qs, .caption = {}, .band = u"lebar"_qs},
+                     {.name = u"b"_qs, .field = u"b"_qs, .caption = {}, .band = u"lebar"_qs}},
+                    {{.name = u"lebar"_qs, .caption = u"MMMM"_qs}});
+    grid.resize(200, 100);
+    grid.setColumnWidth(0, 500);
+    grid.setColumnWidth(1, 500);
+    grid.show();
+    const auto inkInTheMiddle = [&grid] {
+        const QWidget& header = *grid.horizontalHeader()->viewport();
+        const QRect middle(header.width() / 2 - 20, 0, 40, header.height() / 2);
+        const QImage picture = grid.horizontalHeader()->viewport()->grab(middle).toImage();
+        int dark = 0;
+        for (int x = 0; x < picture.width(); ++x)
+            for (int y = 0; y < picture.height(); ++y)
+                dark += qGray(picture.pixel(x, y)) < 100;
+        return dark;
+    };
+    EXPECT_GT(inkInTheMiddle(), 20);
+    grid.horizontalScrollBar()->setValue(grid.horizontalScrollBar()->maximum());
+    EXPECT_GT(inkInTheMiddle(), 20);
 }
 
 } // namespace

@@ -64,11 +64,9 @@ void BandHeader::paintSection(QPainter* painter, const QRect& rect, int column) 
     option.position = QStyleOptionHeader::Middle;
     painter->save();
     painter->setClipRect(upper);
-    style()->drawControl(QStyle::CE_Header, &option, painter, this);
+    style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
     // The caption stands over the part that can be seen.
-    option.rect = whole & viewport()->rect();
-    option.text = band->caption();
-    option.textAlignment = Qt::AlignCenter;
-    style()->drawControl(QStyle::CE_HeaderLabel, &option, painter, this);
+    style()->drawItemText(painter, whole & viewport()->rect(), Qt::AlignCenter, palette(), isEnabled(),
+                          band->caption(), QPalette::ButtonText);
     painter->restore();
 }
