@@ -96,18 +96,21 @@ TEST_F(Grid, CellsKeepTheirColourOnTheCurrentRow) {
 }
 
 TEST(Bands, CaptionStandsOverThePartThatCanBeSeen) {
-    DataGrid grid;
-    grid.setColumns({{.name = u"a"_qs, .field = u"a"_qs, .caption = {}, .band = u"lebar"_qs},
-                     {.name = u"b"_qs, .field = u"b"_qs, .caption = {}, .band = u"lebar"_qs}},
-                    {{.name = u"lebar"_qs, .caption = u"MMMM"_qs}});
-    grid.resize(200, 100);
-    grid.setColumnWidth(0, 500);
-    grid.setColumnWidth(1, 500);
-    grid.show();
-    const auto inkInTheMiddle = [&grid] {
-        const QWidget& header = *grid.horizontalHeader()->viewport();
-        const QRect middle(header.width() / 2 - 20, 0, 40, header.height() / 2);
-        const QImage picture = grid.horizontalHeader()->viewport()->grab(middle).toImage();
+    QWidget window;
+    DataGrid grid(&window);
+    std::vector<ColumnPlan> columns;
+    for (const auto& name : {u"a"_qs, u"b"_qs, u"c"_qs, u"d"_qs, u"e"_qs})
+        columns.push_back({.name = name, .field = name, .caption = {}, .band = u"lebar"_qs});
+    grid.setColumns(columns, {{.name = u"lebar"_qs, .caption = u"MMMM"_qs}});
+    // Away from the corner of the window, where wrong clipping would not show.
+    grid.setGeometry(50, 150, 200, 100);
+    for (int column = 0; column < int(columns.size()); ++column)
+        grid.setColumnWidth(column, 80);
+    window.show();
+    const auto inkInTheMiddle = [&] {
+        const QImage picture =
+            window.grab({grid.x() + grid.width() / 2 - 20, grid.y(), 40, grid.horizontalHeader()->height() / 2})
+                .toImage();
         int dark = 0;
         for (int x = 0; x < picture.width(); ++x)
             for (int y = 0; y < picture.height(); ++y)

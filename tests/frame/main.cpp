@@ -1,9 +1,12 @@
+#include "toolkit/ui/theme.h"
+
 #include <QApplication>
 
 #include <gtest/gtest.h>
 
 int main(int argc, char** argv) {
-    const QApplication application(argc, argv);
+    QApplication application(argc, argv);
+    applyTheme(application);
     testing::InitGoogleTest(&argc, argv);
     return RUN_ALL_TESTS();
 }
