@@ -26,7 +26,7 @@ QPalette lightPalette() {
 // Title bars of panels carry the dynamic property "judul"; everything else is the style's.
 constexpr char16_t sheet[] = uR"(
     *[judul="true"] { background: #0f4c64; color: white; padding: 5px 10px; font-weight: bold; }
-    *[jumlah="true"] { font-size: 15pt; font-weight: bold; color: #0f4c64; }
+    *[jumlah="true"] { font-size: 13pt; font-weight: bold; color: #0f4c64; }
     *[tebal="true"] { font-weight: bold; }
     QStatusBar { background: #e4e9ed; }
     QStatusBar::item { border-right: 1px solid #c3ccd4; }
