@@ -1,6 +1,7 @@
 #include "tests/frame/fixture.h"
 
-#include <QWidget>
+#include <QApplication>
+#include <QTimer>
 
 SmallCompany::SmallCompany() {
     database.run(QString::fromUtf8(R"(
@@ -23,4 +24,17 @@ SmallCompany::SmallCompany() {
     database.runApp(QStringLiteral("insert into global_setting values('default_lang', 'indonesia')"));
     QWidget form;
     services.language.ApplyLanguage(form);
+}
+
+Message messageDuring(const std::function<void()>& action) {
+    Message shown;
+    QTimer::singleShot(0, qApp, [&shown] {
+        if (auto* window = qobject_cast<MessageWindow*>(QApplication::activeModalWidget())) {
+            shown = window->message();
+            window->press(MessageOk);
+        }
+    });
+    action();
+    QCoreApplication::processEvents();
+    return shown;
 }

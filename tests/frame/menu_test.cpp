@@ -5,7 +5,6 @@
 #include "tests/frame/fixture.h"
 #include "toolkit/ui/data_grid.h"
 #include "toolkit/ui/lookup_box.h"
-#include "toolkit/ui/message_dialog.h"
 
 #include <QListWidget>
 #include <QTemporaryDir>
@@ -76,15 +75,9 @@ TEST(CriteriaSearch, FindsUpToTwoHundredTickedEmployees) {
         clb_emp.item(i)->setCheckState(Qt::Checked);
     EXPECT_EQ(started.rowsAfterSearch(), 200);
     clb_emp.item(200)->setCheckState(Qt::Checked);
-    QString told;
-    QTimer::singleShot(0, &started.menu, [&] {
-        if (auto* window = qobject_cast<MessageWindow*>(QApplication::activeModalWidget())) {
-            told = window->message().text;
-            window->press(MessageOk);
-        }
-    });
-    EXPECT_EQ(started.rowsAfterSearch(), 0);
-    EXPECT_EQ(told, QStringLiteral("Data kriteria maksimal berisi 200 karyawan."));
+    const Message told = messageDuring([&] { EXPECT_EQ(started.rowsAfterSearch(), 0); });
+    EXPECT_EQ(told.id, QStringLiteral("message_id[51]"));
+    EXPECT_EQ(told.text, QStringLiteral("Data kriteria maksimal berisi 200 karyawan."));
 }
 
 } // namespace
