@@ -1,6 +1,8 @@
 #include "tests/report/paper.h"
 
-#include <algorithm>
+#include <QProcess>
+#include <gtest/gtest.h>
+
 #include <cmath>
 #include <map>
 
@@ -8,18 +10,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString shown(const report::Mark& mark) {
-    if (mark.kind == report::Mark::Kind::Frame)
-        return u'[' + (mark.fill.isValid() ? mark.fill.name() : QString()) + u']';
-    const QString text = QString(mark.text).replace(u'\n', u'/');
-    return mark.look.underline ? u'_' + text + u'_' : text;
-}
-
 QStringList linesOf(const report::Page& page, const QString& band) {
     std::map<long, std::multimap<double, QString>> lines;
-    for (const report::Mark& mark : page.marks)
+    for (const report::Mark& mark : page.marks) {
+        const QString text = mark.kind == report::Mark::Kind::Frame ? u"[]"_s : QString(mark.text).replace(u'\n', u'/');
         if ((band.isEmpty() || mark.band == band) && mark.kind != report::Mark::Kind::Rule)
-            lines[std::lround(mark.box.y() * 10)].emplace(mark.box.x(), shown(mark));
+            lines[std::lround(mark.box.y() * 10)].emplace(mark.box.x(), text);
+    }
     QStringList result;
     for (const auto& [y, texts] : lines) {
         QStringList line;
@@ -32,18 +29,14 @@ QStringList linesOf(const report::Page& page, const QString& band) {
 
 } // namespace
 
-std::string paper(const report::Document& document) {
-    QStringList result;
-    int number = 0;
-    for (const report::Page& page : document.pages)
-        result << u"page %1 of %2"_s.arg(++number).arg(document.pages.size()) << linesOf(page, {});
-    return result.join(u'\n').toStdString();
-}
-
 std::string paper(const report::Document& document, const QString& band) {
     QStringList result;
-    for (const report::Page& page : document.pages)
+    int number = 0;
+    for (const report::Page& page : document.pages) {
+        if (band.isEmpty())
+            result << u"page %1 of %2"_s.arg(++number).arg(document.pages.size());
         result << linesOf(page, band);
+    }
     return result.join(u'\n').toStdString();
 }
 
@@ -61,4 +54,12 @@ std::unique_ptr<data::MemTable> table(const QStringList& fields, const QList<QSt
     }
     result->first();
     return result;
+}
+
+QString outputOf(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    EXPECT_TRUE(process.waitForFinished()) << program.toStdString();
+    EXPECT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
+    return QString::fromUtf8(process.readAllStandardOutput());
 }

@@ -1,5 +1,6 @@
-#include "tests/report/payroll_fixture.h"
+#include "tests/report/payroll_papers.h"
 
+#include "register/reports/statements.h"
 #include "toolkit/text/sql_text.h"
 
 using namespace Qt::StringLiterals;
@@ -12,28 +13,14 @@ PayrollPapers::PayrollPapers() {
 INSERT INTO dept VALUES (1, 'PT Contoh', 'PT Contoh'), (2, 'PT Contoh\\Produksi', 'Produksi');
 INSERT INTO func VALUES (1, 'Operator');
 INSERT INTO cabang VALUES (1, 'Bandung');
+INSERT INTO z_pay_com (com_id, com_kode, com_name, type, no_urut, cara_bayar)
+  SELECT seq, concat('K', seq), concat('Nama ', seq), seq>100, seq, 0 FROM seq_1_to_120;
+INSERT INTO emp (emp_id_auto, pin, nik, first_name, last_name, cab_id_auto, dept_id_auto, func_id_auto, emp_status)
+  VALUES (9, '9', 'N9', 'Ani', '', 1, 2, 1, 0), (10, '10', 'N10', 'Citra', 'Dewi', 1, 2, 1, 0),
+         (11, '11', 'N11', 'Eko', '', 1, 2, 1, 1);
+INSERT INTO z_pay_grp_emp (grp_id, emp_id_auto) VALUES (1, 9), (1, 10), (1, 11);
+INSERT INTO z_pay_grp_com (com_id, grp_id, no_urut_ref, jenis) VALUES (5, 1, 1, 0), (6, 1, 2, 1), (7, 1, 3, 2);
 )"_s);
-}
-
-void PayrollPapers::add(const Component& component) {
-    database.run(u"INSERT INTO z_pay_com (com_id, com_kode, com_name, type, no_urut, cara_bayar) "
-                 "VALUES (%1, 'K%1', %2, %3, %1, %4)"_s.arg(component.com_id)
-                     .arg(EscapeSqlText(component.com_name))
-                     .arg(component.type)
-                     .arg(component.cara_bayar));
-}
-
-void PayrollPapers::rule(int com_id, int jenis) {
-    database.run(
-        u"INSERT INTO z_pay_grp_com (com_id, grp_id, no_urut_ref, jenis) VALUES (%1, 1, %1, %2)"_s.arg(com_id).arg(
-            jenis));
-}
-
-void PayrollPapers::employee(int emp_id_auto, const QString& name) {
-    database.run(u"INSERT INTO emp (emp_id_auto, pin, nik, first_name, last_name, cab_id_auto, dept_id_auto, "
-                 "func_id_auto, emp_status) VALUES (%1, '%1', 'N%1', %2, %3, 1, 2, 1, 0)"_s.arg(emp_id_auto)
-                     .arg(EscapeSqlText(name.section(u' ', 0, 0)), EscapeSqlText(name.section(u' ', 1))));
-    database.run(u"INSERT INTO z_pay_grp_emp (grp_id, emp_id_auto) VALUES (1, %1)"_s.arg(emp_id_auto));
 }
 
 void PayrollPapers::pay(int process_id, int emp_id_auto, double tot_payroll, const QList<Line>& lines) {
@@ -49,4 +36,15 @@ void PayrollPapers::pay(int process_id, int emp_id_auto, double tot_payroll, con
                          .arg(line.subtot_payroll, 0, 'f', 0)
                          .arg(EscapeSqlText(line.kondisi))
                          .arg(line.jml_faktor));
+}
+
+QList<PayrollPapers::Line> PayrollPapers::lines(int first, int count) {
+    QList<Line> result;
+    for (int com_id = first; com_id < first + count; ++com_id)
+        result << Line{com_id, 1000.0 * com_id};
+    return result;
+}
+
+payroll::Request PayrollPapers::runs(const QList<qint64>& ids) {
+    return {.filter = payroll::processFilter(ids), .dtp_tgl_aw = {2026, 5, 1}, .dtp_tgl_akh = {2026, 5, 31}};
 }

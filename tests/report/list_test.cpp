@@ -1,0 +1,92 @@
+// The two lists, recap and detail, read as text.
+#include "tests/report/paper.h"
+#include "tests/report/payroll_papers.h"
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Recap : public PayrollPapers {};
+class Detail : public PayrollPapers {};
+
+} // namespace
+
+TEST_F(Recap, ListsTheEmployeesOfTheRunsByPinWithTheirNetPayAlsoWhoLeftAndWhomNobodyKnows) {
+    pay(1, 10, 4000000);
+    pay(1, 9, 2500500);
+    pay(1, 11, 1000);
+    pay(2, 10, 1000000);
+    pay(2, 99, 2000);
+    pay(3, 9, 777);
+    EXPECT_EQ(paper(*reports.RekapPenggajian(runs({1, 2})), u"detail"_s), R"(  | 2.000
+9 | N9 | Ani  | Operator | Bandung | 2.500.500
+10 | N10 | Citra Dewi | Operator | Bandung | 5.000.000
+11 | N11 | Eko  | Operator | Bandung | 1.000)");
+}
+
+TEST_F(Recap, EachPageEndsWithTheSumUpToThere) {
+    for (int employee = 1; employee <= 130; ++employee)
+        pay(1, employee, 100);
+    EXPECT_EQ(paper(*reports.RekapPenggajian(runs({1})), u"footer"_s), R"(Total Gaji : | 5.700
+Halaman |  :  | 1 | dari |  :  | 3 | Tgl. Cetak |  :  | 05/06/2026 14:03:09 | Oleh |  :  | budi
+Total Gaji : | 11.400
+Halaman |  :  | 2 | dari |  :  | 3 | Tgl. Cetak |  :  | 05/06/2026 14:03:09 | Oleh |  :  | budi
+Total Gaji : | 13.000
+Halaman |  :  | 3 | dari |  :  | 3 | Tgl. Cetak |  :  | 05/06/2026 14:03:09 | Oleh |  :  | budi)");
+}
+
+TEST_F(Recap, TakesItsFixedTextsFromTheLanguage) {
+    database.runApp(uR"(
+INSERT INTO change_lang (com_form, com_name, no_index, indonesia, english) VALUES
+  ('frm_hitung_gaji', 'PPL_judul_rekap', -1, 'Rekap', 'PAYROLL SUMMARY'),
+  ('frm_hitung_gaji', 'ppl_pin', -1, 'PIN', ''''''), ('frm_hitung_gaji', 'lbl_emp', -1, 'a', 'b'),
+  ('frm_kredit_emp', 'ppl_nik', -1, 'x', 'y');
+)"_s);
+    pay(1, 9, 1000);
+    captions = payroll::captionsOf(session, u"english"_s);
+    EXPECT_EQ(paper(*reports.RekapPenggajian(runs({1})), u"header"_s), R"(PAYROLL SUMMARY
+Nama Perusahaan |  :  | PT Contoh
+Tgl. Periode |  :  | 01/05/2026 |  s/d  | 31/05/2026
+PIN | NIK | Nama karyawan | Jabatan | Cabang | Jumlah Gaji)");
+    captions = payroll::captionsOf(session, u"no_such_language"_s);
+    EXPECT_EQ(paper(*reports.RekapPenggajian(runs({1})), u"header"_s).substr(0, 24), "LAPORAN REKAP PENGGAJIAN");
+}
+
+TEST_F(Detail, ShowsEarningsAndDeductionsOfEachEmployee) {
+    pay(1, 9, 4300000,
+        {{6, 100000, u"* 20.000"_s, 5},
+         {1, 4000000, u"* 4.000.000"_s},
+         {5, 500000, u"* 25.000"_s, 20},
+         {109, 300000, u" x Angsuran"_s}});
+    pay(1, 10, 3000000, {{1, 3000000, u"* 3.000.000"_s}});
+    EXPECT_EQ(paper(reports.RincianPenggajian(runs({1}))), R"(page 1 of 1
+LAPORAN RINCIAN PENGGAJIAN
+Nama Perusahaan |  :  | PT Contoh
+Tgl. Periode |  :  | 01/05/2026 |  s/d  | 31/05/2026
+PIN |  :  | 9 | Nama |  :  | Ani  | Jabatan |  :  | Operator
+NIK |  :  | N9 | Departemen |  :  | Produksi | Gaji diterima |  :  | 4.300.000
+Kode | Komponen gaji | Keterangan | Jumlah Uang
+K1 | Nama 1 | 1 | * 4.000.000 | 4.000.000
+K5 | Nama 5 | 20 | * 25.000 | 500.000
+K6 | Nama 6 | 100.000
+Total penerimaan | 4.600.000
+K109 | Nama 109 | 1 |  x Angsuran | 300.000
+Total potongan | 300.000
+PIN |  :  | 10 | Nama |  :  | Citra Dewi | Jabatan |  :  | Operator
+NIK |  :  | N10 | Departemen |  :  | Produksi | Gaji diterima |  :  | 3.000.000
+Kode | Komponen gaji | Keterangan | Jumlah Uang
+K1 | Nama 1 | 1 | * 3.000.000 | 3.000.000
+Total penerimaan | 3.000.000
+Total potongan | 0
+Halaman |  :  | 1 | dari |  :  | 1 | Tgl. Cetak |  :  | 05/06/2026 14:03:09 | Oleh |  :  | budi)");
+}
+
+TEST_F(Detail, KeepsAnEmployeeOnOnePage) {
+    for (const int employee : {9, 10})
+        pay(1, employee, 465000, lines(11, 30));
+    const report::Document document = reports.RincianPenggajian(runs({1}));
+    QList<qsizetype> earnings;
+    for (const report::Page& page : document.pages)
+        earnings << std::ranges::count(page.marks, u"earning"_s, &report::Mark::band);
+    EXPECT_EQ(earnings, (QList<qsizetype>{30 * 4, 30 * 4})) << "code, name, factor, amount";
+}
