@@ -12,7 +12,8 @@ if(ORVANE_SANITIZE)
   target_link_options(orvane_flags INTERFACE -fsanitize=address,undefined)
 endif()
 
-# add_room(NAME SOURCES a.cpp ... LINKS target ... PRIVATE_LINKS target ...): target names read orvane_<room>.
+# add_room(NAME SOURCES a.cpp a.ui ... LINKS target ... PRIVATE_LINKS target ...): target names read orvane_<room>.
+# A .ui that is no source is not built anew in the same run in which it changes.
 function(add_room name)
   cmake_parse_arguments(ROOM "" "" "SOURCES;LINKS;PRIVATE_LINKS" ${ARGN})
   add_library(${name} STATIC ${ROOM_SOURCES})
