@@ -48,11 +48,6 @@ protected:
         copy.applyUpdates();
         return connection.statementCount() - before;
     }
-    std::string sortedListing() {
-        copy.setOrder({u"a"_s, u"b"_s});
-        copy.first();
-        return listing(copy);
-    }
     static QStringList stored(const QString& columns = u"a, b, v, s"_s) {
         return database().rows(u"SELECT "_s + columns + u" FROM t ORDER BY a, b"_s);
     }
@@ -171,9 +166,10 @@ TEST_F(Apply, GivesTheServerWhatTheCopyShowsAfterRandomChanges) {
         }
         copy.clearFilter();
         copy.applyUpdates();
-        const std::string shown = sortedListing();
+        copy.setOrder({u"a"_s, u"b"_s});
+        const QStringList shown = rowsOf(copy);
         copy.reopen();
-        ASSERT_TRUE(sortedListing() == shown) << "round " << round;
+        ASSERT_TRUE(rowsOf(copy) == shown) << "round " << round;
         copy.setOrder({});
     }
 }
@@ -192,22 +188,6 @@ TEST_F(Apply, LeavesToTheServerWhatNobodyFilledIn) {
     EXPECT_EQ(database().rows(u"SELECT * FROM u ORDER BY a"_s),
               QStringList({u"1\t0\t\t-1"_s, u"2\t0\t\t-1"_s, u"3\t4\tlima\t6"_s}))
         << "one row or many, and though the query shows two columns of one name";
-}
-
-TEST_F(Apply, LetsAStrictServerCutATextToItsColumn) {
-    database().run(u"SET GLOBAL sql_mode='STRICT_ALL_TABLES,ONLY_FULL_GROUP_BY,NO_ZERO_DATE'"_s);
-    db::Connection fresh;
-    fresh.configure(database().mainSettings());
-    data::SqlQuery rows(fresh, query.sql());
-    data::ClientDataSet other(
-        {.query = &rows, .table = u"t"_s, .keys = {u"a"_s, u"b"_s}, .neverWritten = {u"pilih"_s}});
-    other.open();
-    other.editValue(u"s", QString(1200, u'y'));
-    other.post();
-    add(other, {5, 5, 0, QString(1200, u'z')});
-    other.applyUpdates();
-    database().run(u"SET GLOBAL sql_mode=''"_s);
-    EXPECT_EQ(stored(u"length(s)"_s), QStringList({u"1000"_s, u"3"_s, u"4"_s, u"5"_s, u"1000"_s}));
 }
 
 TEST_F(Apply, QueryFollowsTheRecordOfItsMaster) {
@@ -233,10 +213,7 @@ TEST_F(Apply, QueryGivesEachColumnItsType) {
                          "TIMESTAMP('2024-02-29 10:11:12') AS m, NULL AS n, CAST('0000-00-00' AS date) AS z"_s);
     types.open();
     EXPECT_EQ(listing(types), "[1 1.5 x 2024-02-29 2024-02-29 10:11:12 NULL NULL]");
-    std::vector<data::FieldType> kinds;
-    for (const data::Field& field : types.fields())
-        kinds.push_back(field.type);
-    kinds.resize(5);
     using enum data::FieldType;
-    EXPECT_EQ(kinds, (std::vector{Integer, Real, Text, Date, Moment}));
+    for (size_t place = 0; const data::FieldType type : {Integer, Real, Text, Date, Moment})
+        EXPECT_EQ(types.fields()[place++].type, type) << place;
 }

@@ -1,8 +1,6 @@
 #include "tests/data/listing.h"
 
-#include <QStringList>
-
-std::string listing(const data::DataSet& set) {
+QStringList rowsOf(const data::DataSet& set) {
     QStringList rows;
     for (int row = 0; row < set.rowCount(); ++row) {
         QStringList values;
@@ -10,9 +8,15 @@ std::string listing(const data::DataSet& set) {
             const QVariant& value = set.valueAt(row, field);
             values << (value.isValid() ? data::textOf(value) : QStringLiteral("NULL"));
         }
-        const QString text = values.join(u' ');
-        rows << (row == set.row() ? u'[' + text + u']' : text);
+        rows << values.join(u' ');
     }
+    return rows;
+}
+
+std::string listing(const data::DataSet& set) {
+    QStringList rows = rowsOf(set);
+    if (set.row() >= 0 && set.row() < rows.size())
+        rows[set.row()] = u'[' + rows[set.row()] + u']';
     return rows.join(QStringLiteral(" | ")).toStdString();
 }
 

@@ -111,7 +111,7 @@ TEST_F(Walk, DefaultsOfANewRecordDoNotMakeItWorthKeeping) {
     EXPECT_EQ(listing(set), "1 | 2 | 3 | [9]");
 }
 
-TEST_F(Walk, DeletingWhileSteppingSkipsTheRecordThatMovesUpAndSteppingBackMeetsAll) {
+TEST_F(Walk, DeletingWhileSteppingBackMeetsAll) {
     add(set, {4});
     std::string met;
     for (set.last(); !set.isBof();) {
@@ -123,9 +123,6 @@ TEST_F(Walk, DeletingWhileSteppingSkipsTheRecordThatMovesUpAndSteppingBackMeetsA
     }
     EXPECT_EQ(met, "43231") << "the record behind a deleted one becomes current, so 3 comes twice";
     EXPECT_EQ(listing(set), "[1] | 3");
-    for (set.first(); !set.isEof(); set.next())
-        set.remove();
-    EXPECT_EQ(listing(set), "[3]");
 }
 
 TEST_F(Walk, FailingHandlersLeaveTheSetUsable) {

@@ -1,19 +1,16 @@
-#include "tests/robot/action.h"
-#include "tests/robot/grid_commands.h"
+#include "tests/robot/commands.h"
+
 #include "tests/robot/keyboard.h"
 #include "tests/robot/pointer.h"
-#include "tests/robot/report_commands.h"
 #include "tests/robot/shown.h"
+#include "toolkit/report/fr_preview.h"
 
+#include <QAbstractButton>
 #include <QApplication>
-#include <QCheckBox>
 #include <QComboBox>
 #include <QDateTimeEdit>
-#include <QFileInfo>
-#include <QHash>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QRadioButton>
 #include <QSpinBox>
 #include <QtTest/qtestkeyboard.h>
 #include <QtTest/qtestsystem.h>
@@ -28,18 +25,12 @@ int wholeNumber(const QString& word) {
     return number;
 }
 
-void focusOn(QWidget* control, const QString& path) {
+QWidget* focusOn(QWidget* control, const QString& path) {
     control->setFocus(Qt::MouseFocusReason);
     Robot::settle();
     if (isReadOnly(control))
         throw CommandError(QStringLiteral("%1 is read-only").arg(path));
-}
-
-void setDate(QDateTimeEdit* edit, const QString& value) {
-    const QDate date = QDate::fromString(value, Qt::ISODate);
-    if (!date.isValid())
-        throw CommandError(QStringLiteral("%1 is no date").arg(value));
-    edit->setDate(date);
+    return control;
 }
 
 /// One word shorter than typing: the value arrives whole and is accepted as by the Enter key.
@@ -50,15 +41,16 @@ void setValue(QWidget* control, const QString& path, const QString& value) {
         return;
     }
     focusOn(control, path);
-    if (auto* date = qobject_cast<QDateTimeEdit*>(control)) {
-        setDate(date, value);
-    } else if (qobject_cast<QLineEdit*>(control) || qobject_cast<QPlainTextEdit*>(control)) {
+    const QDate date = QDate::fromString(value, Qt::ISODate);
+    auto* dateEdit = qobject_cast<QDateTimeEdit*>(control);
+    if (dateEdit && date.isValid())
+        dateEdit->setDate(date);
+    else if (qobject_cast<QLineEdit*>(control) || qobject_cast<QPlainTextEdit*>(control))
         typeText(control, value);
-    } else if (auto* number = qobject_cast<QSpinBox*>(control)) {
+    else if (auto* number = qobject_cast<QSpinBox*>(control))
         number->setValue(wholeNumber(value));
-    } else {
-        throw CommandError(QStringLiteral("%1 takes no value").arg(path));
-    }
+    else
+        throw CommandError(QStringLiteral("%1 does not take %2").arg(path, quoted(value)));
     QMetaObject::invokeMethod(control, "editingFinished");
 }
 
@@ -107,9 +99,38 @@ void shoot(Robot& robot, const QString& path) {
         throw CommandError(QStringLiteral("cannot write %1").arg(path));
 }
 
-void printItems(const QWidget* control) {
-    for (const QString& item : shownItems(control))
-        Robot::print(item);
+const report::Document& openReport(Robot& robot) {
+    for (const QWidget* form : robot.forms().openForms())
+        if (const auto* preview = qobject_cast<const Tfrm_preview*>(form))
+            return preview->document();
+    throw CommandError(QStringLiteral("no preview is open"));
+}
+
+void saveReport(Robot& robot, const QString& path) {
+    try {
+        savePdf(openReport(robot), path);
+    } catch (const report::OutputFault& fault) {
+        throw CommandError(QStringLiteral("cannot write %1: %2").arg(path, QString::fromUtf8(fault.what())));
+    }
+}
+
+void queueAnswers(Robot& robot, const Words& words) {
+    for (const QString& word : words)
+        robot.dialogs().queueAnswer(wholeNumber(word));
+}
+
+void pressKey(Robot& robot, const Words& words) {
+    const auto forms = robot.forms().openForms();
+    pressKeys(forms.empty() ? nullptr : forms.front(), words[0]);
+}
+
+void printText(Robot& robot, const Words& words) {
+    Robot::print(QStringLiteral("%1 = %2").arg(words[0], quoted(shownText(robot.control(words[0])))));
+}
+
+void printAll(const QStringList& facts) {
+    for (const QString& fact : facts)
+        Robot::print(fact);
 }
 
 // The words behind the command's own name; how many it takes stands beside it.
@@ -118,43 +139,24 @@ const Actions& actions() {
         {u"start"_qs, {0, 0, [](Robot& r, const Words&) { r.startProgram(); }}},
         {u"click"_qs, {1, 1, [](Robot& r, const Words& w) { clickControl(r.reachable(w[0]), w[0]); }}},
         {u"double"_qs, {1, 1, [](Robot& r, const Words& w) { doubleClickControl(r.reachable(w[0]), w[0]); }}},
-        {u"type"_qs,
-         {2, 2,
-          [](Robot& r, const Words& w) {
-              QWidget* control = r.reachable(w[0]);
-              focusOn(control, w[0]);
-              typeText(control, w[1]);
-          }}},
+        {u"type"_qs, {2, 2, [](Robot& r, const Words& w) { typeText(focusOn(r.reachable(w[0]), w[0]), w[1]); }}},
         {u"set"_qs, {2, 2, [](Robot& r, const Words& w) { setValue(r.reachable(w[0]), w[0], w[1]); }}},
         {u"choose"_qs, {2, 2, [](Robot& r, const Words& w) { chooseEntry(r.reachable(w[0]), w[0], w[1]); }}},
         {u"leave"_qs, {1, 1, [](Robot& r, const Words& w) { leaveControl(r.reachable(w[0]), w[0]); }}},
-        {u"answer"_qs,
-         {1, anyNumber,
-          [](Robot& r, const Words& w) {
-              for (const QString& word : w)
-                  r.dialogs().queueAnswer(wholeNumber(word));
-          }}},
+        {u"answer"_qs, {1, anyNumber, queueAnswers}},
         {u"input"_qs, {1, 1, [](Robot& r, const Words& w) { r.dialogs().queueInput(w[0]); }}},
         {u"file"_qs, {1, 1, [](Robot& r, const Words& w) { r.dialogs().queueFile(w[0]); }}},
-        {u"key"_qs,
-         {1, 1,
-          [](Robot& r, const Words& w) {
-              const auto forms = r.forms().openForms();
-              pressKeys(forms.empty() ? nullptr : forms.front(), w[0]);
-          }}},
-        {u"get"_qs,
-         {1, 1,
-          [](Robot& r, const Words& w) {
-              Robot::print(QStringLiteral("%1 = %2").arg(w[0], quoted(shownText(r.control(w[0])))));
-          }}},
+        {u"key"_qs, {1, 1, pressKey}},
+        {u"get"_qs, {1, 1, printText}},
         {u"state"_qs, {1, 1, [](Robot& r, const Words& w) { Robot::print(w[0] + u' ' + stateOf(r.control(w[0]))); }}},
-        {u"items"_qs, {1, 1, [](Robot& r, const Words& w) { printItems(r.control(w[0])); }}},
+        {u"items"_qs, {1, 1, [](Robot& r, const Words& w) { printAll(shownItems(r.control(w[0]))); }}},
         {u"forms"_qs, {0, 0, [](Robot& r, const Words&) { printForms(r); }}},
         {u"close"_qs, {1, 1, [](Robot& r, const Words& w) { r.reachable(w[0])->close(); }}},
+        {u"report"_qs, {0, 0, [](Robot& r, const Words&) { printAll(textLines(openReport(r))); }}},
+        {u"pdf"_qs, {1, 1, [](Robot& r, const Words& w) { saveReport(r, w[0]); }}},
         {u"shot"_qs, {1, 1, [](Robot& r, const Words& w) { shoot(r, w[0]); }}},
         {u"wait"_qs, {1, 1, [](Robot&, const Words& w) { QTest::qWait(wholeNumber(w[0])); }}},
-        {u"took"_qs,
-         {0, 0, [](Robot& r, const Words&) { Robot::print(QStringLiteral("took %1 ms").arg(r.lastTook())); }}},
+        {u"took"_qs, {0, 0, [](Robot& r, const Words&) { Robot::print(u"took %1 ms"_qs.arg(r.lastTook())); }}},
         {u"echo"_qs, {1, anyNumber, [](Robot&, const Words& w) { Robot::print(w.join(u' ')); }}},
     };
     return table;
@@ -164,7 +166,7 @@ const Actions& actions() {
 
 void carryOut(Robot& robot, const QStringList& words) {
     const Action* action = nullptr;
-    for (const Actions* table : {&actions(), &gridActions(), &reportActions()})
+    for (const Actions* table : {&actions(), &gridActions()})
         if (const auto found = table->constFind(words.first()); found != table->constEnd())
             action = &*found;
     if (!action)

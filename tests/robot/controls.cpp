@@ -18,36 +18,29 @@ bool showsBehind(const QWidget* window) {
     return window->testAttribute(Qt::WA_ShowWithoutActivating);
 }
 
-bool sameName(const QString& a, const QString& b) {
-    return a.compare(b, Qt::CaseInsensitive) == 0;
+template <typename Widgets>
+QWidget* named(const QString& name, const Widgets& widgets) {
+    const auto found = std::ranges::find_if(
+        widgets, [&](const QWidget* widget) { return widget->objectName().compare(name, Qt::CaseInsensitive) == 0; });
+    return found == widgets.end() ? nullptr : *found;
 }
 
 QWidget* formByName(const FormOrder& forms, const QString& name) {
-    for (QWidget* form : forms.openForms())
-        if (sameName(form->objectName(), name))
-            return form;
-    for (QWidget* window : QApplication::topLevelWidgets())
-        if (isForm(window) && sameName(window->objectName(), name))
-            return window;
-    return nullptr;
+    if (QWidget* form = named(name, forms.openForms()))
+        return form;
+    QWidgetList windows = QApplication::topLevelWidgets();
+    windows.removeIf([](const QWidget* window) { return !isForm(window); });
+    return named(name, windows);
 }
 
+/// The form itself where it has the name.
 QWidget* controlOn(QWidget* form, const QString& name) {
-    if (sameName(form->objectName(), name))
-        return form;
-    for (QWidget* child : form->findChildren<QWidget*>())
-        if (sameName(child->objectName(), name))
-            return child;
-    return nullptr;
+    return named(name, QWidgetList{form} + form->findChildren<QWidget*>());
 }
 
 } // namespace
 
-FormOrder::FormOrder(QObject* parent) : QObject(parent) {
-    qApp->installEventFilter(this);
-}
-
-bool FormOrder::eventFilter(QObject* watched, QEvent* event) {
+void FormOrder::follow(QObject* watched, const QEvent* event) {
     auto* widget = qobject_cast<QWidget*>(watched);
     const bool comesForward = event->type() == QEvent::WindowActivate || event->type() == QEvent::Show;
     if (widget && widget->isWindow() && comesForward && !showsBehind(widget)) {
@@ -56,7 +49,6 @@ bool FormOrder::eventFilter(QObject* watched, QEvent* event) {
     } else if (event->type() == QEvent::Destroy || event->type() == QEvent::Hide) {
         std::erase(m_windows, widget);
     }
-    return false;
 }
 
 std::vector<QWidget*> FormOrder::openForms() const {
@@ -73,21 +65,19 @@ std::vector<QWidget*> FormOrder::openForms() const {
 
 QWidget* findControl(const FormOrder& forms, const QString& path) {
     const qsizetype dot = path.indexOf(u'.');
-    if (dot >= 0) {
-        QWidget* form = formByName(forms, path.left(dot));
-        if (!form)
-            throw CommandError(QStringLiteral("no open form %1").arg(path.left(dot)));
-        if (QWidget* control = controlOn(form, path.mid(dot + 1)))
-            return control;
-        throw CommandError(QStringLiteral("no control %1").arg(path));
+    if (dot < 0) {
+        const std::vector<QWidget*> open = forms.openForms();
+        QWidget* control = open.empty() ? nullptr : controlOn(open.front(), path);
+        if (!control && !(control = formByName(forms, path)))
+            throw CommandError(QStringLiteral("no control %1 on the topmost form").arg(path));
+        return control;
     }
-    const std::vector<QWidget*> open = forms.openForms();
-    if (!open.empty())
-        if (QWidget* control = controlOn(open.front(), path))
-            return control;
-    if (QWidget* form = formByName(forms, path))
-        return form;
-    throw CommandError(QStringLiteral("no control %1 on the topmost form").arg(path));
+    QWidget* form = formByName(forms, path.left(dot));
+    if (!form)
+        throw CommandError(QStringLiteral("no open form %1").arg(path.left(dot)));
+    if (QWidget* control = controlOn(form, path.mid(dot + 1)))
+        return control;
+    throw CommandError(QStringLiteral("no control %1").arg(path));
 }
 
 void requireReachable(const QWidget* control, const QString& path) {

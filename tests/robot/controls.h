@@ -6,17 +6,13 @@
 #include <vector>
 
 /// Remembers in which order windows became active, so that the topmost form is known on every platform.
-class FormOrder final : public QObject {
-    Q_OBJECT
-
+class FormOrder final {
 public:
-    explicit FormOrder(QObject* parent);
+    /// To be told of every event of the program.
+    void follow(QObject* watched, const QEvent* event);
     /// Open forms, topmost first. A form is a visible widget whose object name begins with "frm_"; one that lies
     /// inside the frame stands before the frame.
     [[nodiscard]] std::vector<QWidget*> openForms() const;
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     std::vector<QWidget*> m_windows; // oldest activation first

@@ -1,20 +1,21 @@
 #pragma once
 
-#include <QObject>
 #include <QQueue>
 #include <QStringList>
 
+class QEvent;
 class QFileDialog;
+class QObject;
 
 class InputWindow;
 class MessageWindow;
+class Robot;
 
-/// Answers message, input and file dialogs as they appear, through their own buttons, and prints each.
-class DialogAnswers final : public QObject {
-    Q_OBJECT
-
+/// Answers message, input and file dialogs as they appear, through their own buttons, and prints each. A question, an
+/// input or a file dialog with nothing queued ends the run, and so does an answer that the dialog has no button for.
+class DialogAnswers final {
 public:
-    DialogAnswers();
+    explicit DialogAnswers(Robot& robot) : m_robot(robot) {}
 
     void queueAnswer(int result) { m_answers.enqueue(result); }
     /// "!" cancels the dialog.
@@ -23,19 +24,15 @@ public:
     void queueFile(const QString& path) { m_files.enqueue(path); }
     /// True while a dialog that will be answered is on the screen.
     [[nodiscard]] bool isAnswering() const { return m_answering > 0; }
-
-Q_SIGNALS:
-    /// A question, an input or a file dialog came with nothing queued, or an answer that the dialog has no button for.
-    void failed(const QString& why);
-
-protected:
-    bool eventFilter(QObject* watched, QEvent* event) override;
+    /// To be told of every event of the program.
+    void follow(QObject* watched, const QEvent* event);
 
 private:
     void answer(MessageWindow* window);
     void enter(InputWindow* window);
     void choose(QFileDialog* dialog);
 
+    Robot& m_robot;
     QQueue<int> m_answers;
     QQueue<QString> m_inputs;
     QQueue<QString> m_files;

@@ -1,17 +1,19 @@
-#include "tests/robot/grid_commands.h"
-
-#include "tests/robot/grid_rows.h"
+#include "tests/robot/commands.h"
 #include "tests/robot/keyboard.h"
 #include "tests/robot/pointer.h"
 #include "tests/robot/shown.h"
 #include "toolkit/ui/caption.h"
+#include "toolkit/ui/data_grid.h"
 #include "toolkit/ui/tree_box.h"
 
 #include <QApplication>
+#include <QHeaderView>
 #include <QListWidget>
 #include <QMenu>
 #include <QTreeWidget>
 #include <QtTest/qtestkeyboard.h>
+
+#include <algorithm>
 
 namespace {
 
@@ -22,12 +24,54 @@ DataGrid* gridOf(QWidget* control, const QString& path) {
     return grid;
 }
 
-/// The rows that the words behind the grid's name tell; at least one.
+bool holds(const DataGrid& grid, int row, const QString& condition) {
+    const QString name = condition.section(u'=', 0, 0);
+    const QString wanted = condition.section(u'=', 1);
+    const int column = grid.columnOf(name);
+    if (column >= 0 && grid.rows().textAt(row, column) == wanted)
+        return true;
+    if (!grid.dataSet()->hasField(name))
+        throw CommandError(QStringLiteral("no field %1").arg(name));
+    return data::textOf(grid.dataSet()->valueAt(row, grid.dataSet()->fieldIndex(name))) == wanted;
+}
+
+/// FIELD=VALUE ... as stored or as shown, all of them must hold; "#3" by position from 1; "*" for all.
+bool matches(const DataGrid& grid, int row, const QStringList& conditions) {
+    if (conditions[0].startsWith(u'#'))
+        return conditions[0].mid(1).toInt() == row + 1;
+    return conditions[0] == u"*" ||
+           std::ranges::all_of(conditions, [&](const QString& one) { return holds(grid, row, one); });
+}
+
+/// The rows that the words behind the grid's name tell; at least one, unless they tell of all.
 std::vector<int> rowsOf(const DataGrid& grid, const Words& words) {
-    const std::vector<int> rows = matchingRows(grid, words.mid(1));
-    if (rows.empty() && words[1] != QLatin1String("*"))
+    std::vector<int> rows;
+    for (int row = 0; row < grid.rows().rowCount(); ++row)
+        if (matches(grid, row, words.mid(1)))
+            rows.push_back(row);
+    if (rows.empty() && words[1] != u"*")
         throw CommandError(QStringLiteral("%1 has no row %2").arg(words[0], words.mid(1).join(u' ')));
     return rows;
+}
+
+/// Columns that show, from the left.
+std::vector<int> shownColumns(const DataGrid& grid) {
+    std::vector<int> columns;
+    for (int visual = 0; visual < grid.horizontalHeader()->count(); ++visual)
+        if (const int column = grid.horizontalHeader()->logicalIndex(visual); !grid.isColumnHidden(column))
+            columns.push_back(column);
+    return columns;
+}
+
+bool isTick(const DataGrid& grid, int column) {
+    return grid.columns()[std::size_t(column)]->show() == Show::Tick;
+}
+
+/// The cell as a person reads it; a tick column reads "[x]" or "[ ]".
+QString shownCell(const DataGrid& grid, int row, int column) {
+    if (isTick(grid, column))
+        return data::integerOf(grid.rows().valueAt(row, column)) == -1 ? QStringLiteral("[x]") : QStringLiteral("[ ]");
+    return oneLine(grid.rows().textAt(row, column));
 }
 
 void clickCell(DataGrid& grid, int row, int column, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
@@ -37,12 +81,14 @@ void clickCell(DataGrid& grid, int row, int column, Qt::KeyboardModifiers modifi
     Robot::settle();
 }
 
-/// A column whose cells can be clicked without any other effect than making their row current.
-int plainColumn(const DataGrid& grid) {
+enum class Click { Ticks, OnlySelects };
+
+/// The first shown column whose cells do that when they are clicked.
+int columnThat(Click click, const DataGrid& grid) {
     for (const int column : shownColumns(grid))
-        if (grid.columns()[std::size_t(column)]->show() != Show::Tick)
+        if (isTick(grid, column) == (click == Click::Ticks))
             return column;
-    throw CommandError(QStringLiteral("%1 shows no column to click").arg(grid.objectName()));
+    throw CommandError(QStringLiteral("%1 shows no such column to click").arg(grid.objectName()));
 }
 
 void makeRowCurrent(Robot& robot, const Words& words) {
@@ -50,19 +96,12 @@ void makeRowCurrent(Robot& robot, const Words& words) {
     const std::vector<int> rows = rowsOf(*grid, words);
     if (rows.empty())
         throw CommandError(QStringLiteral("%1 has no rows").arg(words[0]));
-    clickCell(*grid, rows.front(), plainColumn(*grid));
-}
-
-int tickColumn(const DataGrid& grid, const QString& path) {
-    for (const int column : shownColumns(grid))
-        if (grid.columns()[std::size_t(column)]->show() == Show::Tick)
-            return column;
-    throw CommandError(QStringLiteral("%1 has no tick column").arg(path));
+    clickCell(*grid, rows.front(), columnThat(Click::OnlySelects, *grid));
 }
 
 void setTicks(Robot& robot, const Words& words, const QString& wanted) {
     DataGrid* grid = gridOf(robot.reachable(words[0]), words[0]);
-    const int column = tickColumn(*grid, words[0]);
+    const int column = columnThat(Click::Ticks, *grid);
     int toggled = 0;
     for (const int row : rowsOf(*grid, words)) {
         if (row >= grid->rows().rowCount() || shownCell(*grid, row, column) == wanted)
@@ -77,7 +116,7 @@ void selectRows(Robot& robot, const Words& words) {
     DataGrid* grid = gridOf(robot.reachable(words[0]), words[0]);
     if (grid->selectionMode() == QAbstractItemView::SingleSelection)
         throw CommandError(QStringLiteral("%1 selects one row at a time").arg(words[0]));
-    const int column = plainColumn(*grid);
+    const int column = columnThat(Click::OnlySelects, *grid);
     for (const int row : rowsOf(*grid, words))
         if (!grid->selectionModel()->isSelected(grid->model()->index(row, column)))
             clickCell(*grid, row, column, Qt::ControlModifier);

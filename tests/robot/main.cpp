@@ -8,35 +8,25 @@
 #include <QFileInfo>
 #include <QTemporaryFile>
 
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <span>
+
 namespace {
 
-/// A screen of the wanted size for the platform without a display.
-QByteArray screenDescription(QSize size) {
-    return QStringLiteral(R"({"screens":[{"name":"robot","x":0,"y":0,"width":%1,"height":%2,"logicalDpi":96}]})")
-        .arg(size.width())
-        .arg(size.height())
-        .toUtf8();
-}
-
-QSize sizeArgument(int argc, char** argv) {
-    for (int i = 1; i + 1 < argc; ++i)
-        if (qstrcmp(argv[i], "--size") == 0) {
-            const QList<QByteArray> sides = QByteArray(argv[i + 1]).split('x');
-            if (sides.size() == 2 && sides[0].toInt() > 0 && sides[1].toInt() > 0)
-                return {sides[0].toInt(), sides[1].toInt()};
-        }
-    return {1280, 800};
-}
-
-/// Must happen before the application object exists. On a real display the display's own size stands.
-void prepareScreen(QTemporaryFile& file, QSize size) {
+/// A screen of the wanted size for the platform without a display; must be there before the application object is. On a
+/// real display the display's own size stands.
+void prepareScreen(QTemporaryFile& file, const QString& size) {
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     const bool display = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
     if (platform != "offscreen" && (!platform.isEmpty() || display))
         return;
     if (!file.open())
         return;
-    file.write(screenDescription(size));
+    file.write(QStringLiteral(R"({"screens":[{"name":"robot","x":0,"y":0,"width":%1,"height":%2,"logicalDpi":96}]})")
+                   .arg(size.section(u'x', 0, 0), size.section(u'x', 1))
+                   .toUtf8());
     file.close();
     qputenv("QT_QPA_PLATFORM", "offscreen:configfile=" + file.fileName().toLocal8Bit());
 }
@@ -46,7 +36,7 @@ void describeOptions(QCommandLineParser& options) {
                         {u"user"_qs, u"login id of the launch contract"_qs, u"LOGIN"_qs},
                         {u"admin-id"_qs, u"the per-user value"_qs, u"TEXT"_qs},
                         {u"now"_qs, u"fixes the clock: yyyy-mm-dd hh:mm"_qs, u"MOMENT"_qs},
-                        {u"size"_qs, u"size of the screen without a display"_qs, u"WxH"_qs}});
+                        {u"size"_qs, u"size of the screen without a display"_qs, u"WxH"_qs, u"1280x800"_qs}});
     options.addPositionalArgument(u"SCRIPT"_qs, u"file of commands; standard input without it"_qs, u"[SCRIPT]"_qs);
     options.addHelpOption();
 }
@@ -77,19 +67,25 @@ void printWarning(QtMsgType, const QMessageLogContext& context, const QString& t
 
 int main(int argc, char** argv) {
     qInstallMessageHandler(printWarning);
+    QStringList words;
+    for (const char* word : std::span(argv, std::size_t(argc)))
+        words << QString::fromLocal8Bit(word);
+    QCommandLineParser options;
+    describeOptions(options);
+    options.parse(words);
     QTemporaryFile screen;
-    prepareScreen(screen, sizeArgument(argc, argv));
+    prepareScreen(screen, options.value(u"size"_qs));
     QApplication application(argc, argv);
     applyTheme(application);
     QApplication::setQuitOnLastWindowClosed(false);
-    QCommandLineParser options;
-    describeOptions(options);
     options.process(application);
     const QStringList files = options.positionalArguments();
-    std::FILE* input = files.isEmpty() ? stdin : std::fopen(files.first().toLocal8Bit().constData(), "r");
-    if (!input) {
+    std::ifstream script;
+    if (!files.isEmpty())
+        script.open(files.first().toStdString());
+    if (!script) {
         std::fprintf(stderr, "error: line 0: cannot read %s\n", qPrintable(files.first()));
         return 2;
     }
-    return Robot(environmentFrom(options), input).run();
+    return Robot(environmentFrom(options), files.isEmpty() ? std::cin : script).run();
 }

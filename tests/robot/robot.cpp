@@ -6,9 +6,9 @@
 #include <cstdlib>
 #include <utility>
 
-Robot::Robot(window::ProgramEnvironment environment, std::FILE* input) :
+Robot::Robot(window::ProgramEnvironment environment, std::istream& input) :
     m_environment(std::move(environment)), m_script(input) {
-    connect(&m_dialogs, &DialogAnswers::failed, this, [this](const QString& why) { fail(why); });
+    qApp->installEventFilter(this);
 }
 
 Robot::~Robot() = default;
@@ -18,9 +18,14 @@ int Robot::run() {
     return QApplication::exec();
 }
 
+bool Robot::eventFilter(QObject* watched, QEvent* event) {
+    m_forms.follow(watched, event);
+    m_dialogs.follow(watched, event);
+    return false;
+}
+
 void Robot::print(const QString& fact) {
-    const QByteArray utf8 = fact.toUtf8() + '\n';
-    std::fwrite(utf8.constData(), 1, std::size_t(utf8.size()), stdout);
+    std::printf("%s\n", qUtf8Printable(fact));
     std::fflush(stdout);
 }
 
@@ -69,15 +74,19 @@ void Robot::step() {
         return;
     if (!m_running.empty())
         m_lastTook = m_clock.elapsed();
-    const std::optional<Command> command = m_script.next();
-    if (command) {
-        execute(*command);
-        return;
+    try {
+        if (const std::optional<QStringList> words = m_script.next())
+            execute(*words);
+        else if (QWidget* front = frontWindow())
+            closeLeftOpen(front);
+        else
+            finish();
+    } catch (const CommandError& error) {
+        fail(QString::fromUtf8(error.what()));
     }
-    if (QWidget* front = frontWindow()) {
-        closeLeftOpen(front);
-        return;
-    }
+}
+
+void Robot::finish() {
     m_finished = true;
     if (m_program)
         m_program->closeAll();
@@ -92,18 +101,14 @@ void Robot::closeLeftOpen(QWidget* front) {
     std::_Exit(0);
 }
 
-void Robot::execute(const Command& command) {
-    const bool measured = command.words.first() != QLatin1String("took");
+void Robot::execute(const QStringList& words) {
+    const bool measured = words.first() != QLatin1String("took");
     if (measured)
         m_clock.start();
     m_running.push_back(frontWindow());
     const std::size_t depth = m_running.size();
-    try {
-        carryOut(*this, command.words);
-        settle();
-    } catch (const CommandError& error) {
-        fail(QString::fromUtf8(error.what()));
-    }
+    carryOut(*this, words);
+    settle();
     // Commands that ran inside this one have their own time; the outer one ended when its screen appeared.
     if (measured && m_running.size() == depth)
         m_lastTook = m_clock.elapsed();

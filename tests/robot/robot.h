@@ -18,7 +18,7 @@ class Robot final : public QObject {
     Q_OBJECT
 
 public:
-    Robot(window::ProgramEnvironment environment, std::FILE* input);
+    Robot(window::ProgramEnvironment environment, std::istream& input);
     ~Robot() override;
 
     /// Runs the script to its end; gives the exit status.
@@ -30,32 +30,36 @@ public:
     [[nodiscard]] QWidget* control(const QString& path) { return findControl(m_forms, path); }
     /// The control, after making sure that a person could work on it now.
     [[nodiscard]] QWidget* reachable(const QString& path);
-    [[nodiscard]] window::Program& program() { return *m_program; }
     [[nodiscard]] qint64 lastTook() const { return m_lastTook; }
     void startProgram();
 
     static void print(const QString& fact);
     /// Handles what stands in the queues, as happens between two actions of a person.
     static void settle();
+    /// Ends the run with the line that is being carried out.
+    [[noreturn]] void fail(const QString& why) const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void pulse();
     void step();
+    void finish();
     [[nodiscard]] static QWidget* frontWindow();
     [[nodiscard]] bool mustWait() const;
     static void closeLeftOpen(QWidget* front);
-    void execute(const Command& command);
-    [[noreturn]] void fail(const QString& why) const;
+    void execute(const QStringList& words);
 
     window::ProgramEnvironment m_environment;
-    std::unique_ptr<window::Program> m_program;
     Script m_script;
-    FormOrder m_forms{nullptr};
-    DialogAnswers m_dialogs;
+    FormOrder m_forms;
+    DialogAnswers m_dialogs{*this};
     std::vector<QWidget*> m_running; // the front window that each command on the stack began under
     QElapsedTimer m_clock;
     qint64 m_lastTook = 0;
     bool m_finished = false;
+    std::unique_ptr<window::Program> m_program; // goes first: what follows events is still there then
 };
 
 /// Carries out one command. Throws CommandError.

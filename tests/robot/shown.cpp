@@ -4,68 +4,40 @@
 #include "toolkit/ui/caption.h"
 #include "toolkit/ui/status_panels.h"
 
-#include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPlainTextEdit>
 #include <QRadioButton>
 #include <QTabWidget>
 #include <QTreeWidget>
 
 namespace {
 
-QStringList panelTexts(const StatusPanels* bar) {
-    QStringList texts;
-    for (int i = 0; i < bar->panelCount(); ++i)
-        texts << bar->panelText(i);
-    return texts;
-}
-
-QStringList listItems(const QListWidget* list) {
-    QStringList items;
-    for (int i = 0; i < list->count(); ++i) {
-        const QListWidgetItem* item = list->item(i);
-        const bool ticked = item->data(Qt::CheckStateRole).toInt() == Qt::Checked;
-        items << (ticked ? QStringLiteral("[x] ") : QString()) + item->text();
+/// The entries of a list; those of a tree, each with the steps to it.
+QStringList entriesOf(const QAbstractItemModel* model, const QModelIndex& parent = {}, const QString& steps = {}) {
+    QStringList entries;
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex index = model->index(row, 0, parent);
+        const QString entry = steps + index.data().toString();
+        const bool ticked = index.data(Qt::CheckStateRole).toInt() == Qt::Checked;
+        entries << (ticked ? QStringLiteral("[x] ") : QString()) + entry << entriesOf(model, index, entry + u'/');
     }
-    return items;
-}
-
-QStringList treeItems(const QTreeWidgetItem& parent, const QString& path) {
-    QStringList items;
-    for (int i = 0; i < parent.childCount(); ++i) {
-        const QTreeWidgetItem& item = *parent.child(i);
-        items << path + item.text(0);
-        items << treeItems(item, items.last() + u'/');
-    }
-    return items;
+    return entries;
 }
 
 } // namespace
 
 QString shownText(const QWidget* control) {
-    if (const auto* edit = qobject_cast<const QLineEdit*>(control))
-        return edit->displayText();
-    if (const auto* spin = qobject_cast<const QAbstractSpinBox*>(control))
-        return spin->text();
-    if (const auto* combo = qobject_cast<const QComboBox*>(control))
-        return combo->currentText();
-    if (const auto* note = qobject_cast<const QPlainTextEdit*>(control))
-        return note->toPlainText();
-    if (const auto* label = qobject_cast<const QLabel*>(control))
-        return label->text();
-    if (const auto* button = qobject_cast<const QAbstractButton*>(control)) {
-        const bool isMark = qobject_cast<const QCheckBox*>(button) || qobject_cast<const QRadioButton*>(button);
-        return isMark ? QString::number(button->isChecked() ? -1 : 0) : captionText(button->text());
-    }
-    if (const auto* group = qobject_cast<const QGroupBox*>(control))
-        return captionText(group->title());
-    if (const auto* bar = qobject_cast<const StatusPanels*>(control))
-        return panelTexts(bar).join(QStringLiteral(" | "));
+    if (qobject_cast<const QCheckBox*>(control) || qobject_cast<const QRadioButton*>(control))
+        return control->property("checked").toBool() ? QStringLiteral("-1") : QStringLiteral("0");
+    if (qobject_cast<const StatusPanels*>(control))
+        return shownItems(control).join(QStringLiteral(" | "));
+    const bool hasShortcut = qobject_cast<const QAbstractButton*>(control) || qobject_cast<const QGroupBox*>(control);
+    // The first that a control has is what it shows: "text" of a line edit would be what is typed.
+    for (const char* name : {"displayText", "currentText", "plainText", "text", "title"})
+        if (const QVariant text = control->property(name); text.isValid())
+            return hasShortcut ? captionText(text.toString()) : text.toString();
     if (!control->windowTitle().isEmpty())
         return control->windowTitle();
     throw CommandError(QStringLiteral("%1 shows no text").arg(control->objectName()));
@@ -73,17 +45,17 @@ QString shownText(const QWidget* control) {
 
 QStringList shownItems(const QWidget* control) {
     QStringList items;
-    if (auto* tree = control->findChild<QTreeWidget*>())
-        return treeItems(*tree->invisibleRootItem(), {});
-    if (const auto* combo = qobject_cast<const QComboBox*>(control)) {
-        for (int i = 0; i < combo->count(); ++i)
-            items << combo->itemText(i);
+    if (const auto* tree = control->findChild<QTreeWidget*>())
+        return entriesOf(tree->model());
+    if (const auto* combo = qobject_cast<const QComboBox*>(control))
+        return entriesOf(combo->model());
+    if (const auto* list = qobject_cast<const QListWidget*>(control))
+        return entriesOf(list->model());
+    if (const auto* bar = qobject_cast<const StatusPanels*>(control)) {
+        for (int i = 0; i < bar->panelCount(); ++i)
+            items << bar->panelText(i);
         return items;
     }
-    if (const auto* list = qobject_cast<const QListWidget*>(control))
-        return listItems(list);
-    if (const auto* bar = qobject_cast<const StatusPanels*>(control))
-        return panelTexts(bar);
     if (const auto* tabs = qobject_cast<const QTabWidget*>(control)) {
         for (int i = 0; i < tabs->count(); ++i)
             items << captionText(tabs->tabText(i));

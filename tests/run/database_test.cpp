@@ -55,9 +55,8 @@ protected:
         return text(bulk);
     }
 
-    void choose(std::vector<int> groups, const std::vector<int>& components) {
-        m_selections.groups = std::move(groups);
-        m_selections.components.clear();
+    void choose(const std::vector<int>& groups, const std::vector<int>& components) {
+        m_selections.groups = groups;
         for (const int com_id : components)
             m_selections.components.push_back({.com_id = com_id, .no_urut = com_id});
     }

@@ -3,7 +3,6 @@
 #include "tests/robot/robot.h"
 
 #include <QHash>
-#include <QStringList>
 
 using Words = QStringList;
 
@@ -16,3 +15,9 @@ struct Action {
 using Actions = QHash<QString, Action>;
 
 constexpr int anyNumber = 1000;
+
+/// The commands that speak to grids, check lists and dropped menus.
+[[nodiscard]] const Actions& gridActions();
+
+/// Picks an entry of a tree drop-down, its steps parted by "/"; false where the control is none.
+bool chooseInTree(QWidget* control, const QString& path, const QString& steps);
