@@ -3,6 +3,8 @@
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
+#include <thread>
+
 #include <sys/socket.h>
 
 #include <arpa/inet.h>
@@ -11,7 +13,13 @@ namespace {
 
 class Session : public testing::Test {
 protected:
-    void SetUp() override { m_connection.configure(m_database.mainSettings()); }
+    void SetUp() override {
+        m_connection.configure(m_database.mainSettings());
+        m_connection.execute(u"create table hitung(n int)"_qs);
+    }
+
+    qint64 sessionId() { return TestDatabase::rows(m_connection, u"select connection_id()"_qs).first().toLongLong(); }
+    QStringList counted() { return m_database.rows(u"select count(*) from hitung"_qs); }
 
     TestDatabase m_database;
     db::Connection m_connection;
@@ -71,6 +79,31 @@ TEST_F(Session, FaultsCarryTheServersCodeStateAndTheStatement) {
     }
     EXPECT_TRUE(m_connection.isOpen()) << "a refused statement does not end the session";
     EXPECT_THROW((void)m_connection.query(u"set @a=1"_qs), db::Fault);
+}
+
+TEST_F(Session, AStatementAfterItDiedIsSentOnANewOneOnce) {
+    const qint64 before = sessionId();
+    m_database.run(u"kill %1"_qs.arg(before));
+    m_connection.execute(u"insert into hitung values(1)"_qs);
+    EXPECT_NE(sessionId(), before);
+    EXPECT_EQ(counted(), QStringList{u"1"_qs});
+}
+
+TEST_F(Session, AStatementWhoseFateIsUnknownIsNotSentAgain) {
+    const qint64 id = sessionId();
+    std::thread killer([this, id] {
+        db::Connection other;
+        other.configure(m_database.mainSettings());
+        // The insert below is carried out row by row; its first row is waiting inside sleep() by then.
+        const QString sleeping =
+            u"select 1 from information_schema.processlist where id=%1 and state='User sleep'"_qs.arg(id);
+        for (int i = 0; i < 100 && other.query(sleeping).rowCount() == 0; ++i)
+            std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        other.execute(u"kill %1"_qs.arg(id));
+    });
+    EXPECT_THROW(m_connection.execute(u"insert into hitung select sleep(30)"_qs), db::Fault);
+    killer.join();
+    EXPECT_EQ(counted(), QStringList{u"0"_qs});
 }
 
 TEST(Waits, EndAConnectAndAReadThatNobodyAnswers) {

@@ -80,7 +80,8 @@ QWidget* findControl(const FormOrder& forms, const QString& path) {
     throw CommandError(QStringLiteral("no control %1").arg(path));
 }
 
-void requireReachable(const QWidget* control, const QString& path) {
+QWidget* findReachable(const FormOrder& forms, const QString& path) {
+    QWidget* control = findControl(forms, path);
     if (!control->isVisible())
         throw CommandError(QStringLiteral("%1 is not visible").arg(path));
     if (!control->isEnabled())
@@ -88,4 +89,5 @@ void requireReachable(const QWidget* control, const QString& path) {
     const QWidget* modal = QApplication::activeModalWidget();
     if (modal && modal != control->window() && !modal->isAncestorOf(control))
         throw CommandError(QStringLiteral("%1 lies behind %2").arg(path, modal->objectName()));
+    return control;
 }

@@ -22,5 +22,5 @@ private:
 /// alone means the form. Throws CommandError where there is none.
 [[nodiscard]] QWidget* findControl(const FormOrder& forms, const QString& path);
 
-/// Throws CommandError unless a person could work on the control now: visible, enabled, not behind a modal window.
-void requireReachable(const QWidget* control, const QString& path);
+/// The control, after making sure that a person could work on it now: visible, enabled, not behind a modal window.
+[[nodiscard]] QWidget* findReachable(const FormOrder& forms, const QString& path);

@@ -35,12 +35,6 @@ void Robot::settle() {
     QApplication::processEvents();
 }
 
-QWidget* Robot::reachable(const QString& path) {
-    QWidget* found = control(path);
-    requireReachable(found, path);
-    return found;
-}
-
 void Robot::startProgram() {
     m_program.reset();
     m_program = std::make_unique<window::Program>(m_environment);

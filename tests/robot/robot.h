@@ -28,8 +28,7 @@ public:
     [[nodiscard]] FormOrder& forms() { return m_forms; }
     [[nodiscard]] DialogAnswers& dialogs() { return m_dialogs; }
     [[nodiscard]] QWidget* control(const QString& path) { return findControl(m_forms, path); }
-    /// The control, after making sure that a person could work on it now.
-    [[nodiscard]] QWidget* reachable(const QString& path);
+    [[nodiscard]] QWidget* reachable(const QString& path) { return findReachable(m_forms, path); }
     [[nodiscard]] qint64 lastTook() const { return m_lastTook; }
     void startProgram();
 
