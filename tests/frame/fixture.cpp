@@ -28,13 +28,14 @@ SmallCompany::SmallCompany() {
 
 Message messageDuring(const std::function<void()>& action) {
     Message shown;
-    QTimer::singleShot(0, qApp, [&shown] {
+    QTimer watch;
+    QObject::connect(&watch, &QTimer::timeout, [&shown] {
         if (auto* window = qobject_cast<MessageWindow*>(QApplication::activeModalWidget())) {
             shown = window->message();
             window->press(MessageOk);
         }
     });
+    watch.start(0);
     action();
-    QCoreApplication::processEvents();
     return shown;
 }

@@ -21,9 +21,10 @@ struct Started {
         company.database.writeSettingsFile(folder.path());
         if (!menu.FormCreate())
             qFatal("no session");
-        menu.show();
-        if (!QTest::qWaitForWindowActive(&menu))
-            qFatal("not activated");
+        fault = messageDuring([this] {
+            menu.show();
+            (void)QTest::qWaitForWindowActive(&menu, 2000);
+        });
     }
 
     [[nodiscard]] int rowsAfterSearch() {
@@ -33,6 +34,7 @@ struct Started {
 
     QTemporaryDir folder;
     Tfrm_menu menu;
+    Message fault; ///< shown by the first activation
 };
 
 TEST(SessionBranch, StandsBehindTheFirstColonOfThePerUserValue) {
@@ -50,6 +52,7 @@ TEST(SessionBranch, StandsBehindTheFirstColonOfThePerUserValue) {
                           {"{3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}:1", "1", "Pusat", 2}};
     for (const Case& one : cases) {
         Started started(company, QString::fromUtf8(one.value));
+        EXPECT_EQ(started.fault.text.toStdString(), "") << one.value;
         const auto& lookup_cab = child<LookupBox>(started.menu, u"lookup_cab");
         EXPECT_EQ(started.menu.session().session_cab_id.toStdString(), one.session_cab_id) << one.value;
         EXPECT_EQ(lookup_cab.text().toStdString(), one.branch) << one.value;
