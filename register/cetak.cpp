@@ -5,7 +5,7 @@
 #include "frame/base/tick_list.h"
 #include "register/reports/captions.h"
 #include "register/reports/statements.h"
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 #include "toolkit/report/fr_preview.h"
 #include "toolkit/ui/caption.h"
 #include "toolkit/ui/handler.h"
@@ -44,8 +44,8 @@ void Tfrm_hitung_gaji::btn_cetakClick() {
 
 std::optional<payroll::Request> Tfrm_hitung_gaji::ticked_runs() {
     QList<qint64> processIds;
-    data::dropFault("collecting the ticked runs",
-                    [&] { frame::forEachTicked(cds_m, [&] { processIds << cds_m.integer(u"process_id"); }); });
+    fault::dropFault("collecting the ticked runs",
+                     [&] { frame::forEachTicked(cds_m, [&] { processIds << cds_m.integer(u"process_id"); }); });
     if (!processIds.isEmpty())
         return payroll::Request{payroll::processFilter(processIds), m_ui->dtp_tgl_aw->date(),
                                 m_ui->dtp_tgl_akh->date()};

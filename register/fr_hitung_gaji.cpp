@@ -1,7 +1,7 @@
 #include "register/fr_hitung_gaji.h"
 
 #include "frame/base/tick_list.h"
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/number_text.h"
 #include "toolkit/ui/caption.h"
 #include "toolkit/ui/data_grid.h"
@@ -55,7 +55,7 @@ std::vector<ColumnPlan> detailColumns(const QString& grid) {
 /// Each row rounded to whole rupiah; what cannot be read ends the sum.
 double sumOf(const data::DataSet& rows) {
     double sum = 0;
-    data::dropFault("the sum of a list", [&] {
+    fault::dropFault("the sum of a list", [&] {
         const int field = rows.fieldIndex(u"subtot_payroll");
         for (int row = 0; row < rows.rowCount(); ++row)
             sum += std::nearbyint(data::realOf(rows.valueAt(row, field)));
@@ -200,15 +200,15 @@ void Tfrm_hitung_gaji::dbg_dClick() {
 }
 
 void Tfrm_hitung_gaji::btn_select_allClick() {
-    data::dropFault("ticking all runs", [this] { frame::setTicks(cds_m, frame::TickWish::All); });
+    fault::dropFault("ticking all runs", [this] { frame::setTicks(cds_m, frame::TickWish::All); });
 }
 
 void Tfrm_hitung_gaji::btn_disselect_allClick() {
-    data::dropFault("clearing all ticks", [this] { frame::setTicks(cds_m, frame::TickWish::None); });
+    fault::dropFault("clearing all ticks", [this] { frame::setTicks(cds_m, frame::TickWish::None); });
 }
 
 void Tfrm_hitung_gaji::btn_invertClick() {
-    data::dropFault("inverting the ticks", [this] { frame::setTicks(cds_m, frame::TickWish::Invert); });
+    fault::dropFault("inverting the ticks", [this] { frame::setTicks(cds_m, frame::TickWish::Invert); });
 }
 
 void Tfrm_hitung_gaji::open_form(RunFormTask task) {
@@ -237,7 +237,7 @@ void Tfrm_hitung_gaji::delete_current_run() {
                                   isoDate(cds_m.date(u"date1")), isoDate(cds_m.date(u"date2")));
     m_services.audit.WriteUserLog(m_services.session.login_id, note, frame::payrollModule, m_services.session.clock());
     for (const char16_t* table : {u"z_pay_process_sd", u"z_pay_process_d", u"z_pay_process_m"})
-        data::dropFault("deleting a run", [&] {
+        fault::dropFault("deleting a run", [&] {
             m_services.session.ADOCom_update.execute(QStringLiteral("Delete From %1 Where process_id=%2 ")
                                                          .arg(QString::fromUtf16(table), cds_m.text(u"process_id")));
         });

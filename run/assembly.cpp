@@ -1,7 +1,7 @@
 #include "run/assembly.h"
 
 #include "run/evaluator.h"
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/rounding.h"
 
 #include <algorithm>
@@ -40,9 +40,9 @@ Assembly::Assembly(Run& run, const Selections& selections, Lookups& lookups, con
 }
 
 void Assembly::everyone() {
-    data::dropFault("the remaining groups", [&] {
+    fault::dropFault("the remaining groups", [&] {
         for (const int grp_id : m_selections.groups)
-            data::dropFault("the remaining employees of a group", [&] {
+            fault::dropFault("the remaining employees of a group", [&] {
                 for (const Employee& employee : m_lookups.members(grp_id))
                     hitung_karyawan(grp_id, employee);
             });
@@ -72,9 +72,9 @@ void Assembly::hitung_karyawan(int grp_id, const Employee& employee) {
     line.pin = employee.pin;
     line.nik = employee.nik;
     line.nama = employee.nama;
-    data::dropFault("the remaining components of an employee", [&] { computeComponents(grp_id, line); });
+    fault::dropFault("the remaining components of an employee", [&] { computeComponents(grp_id, line); });
     if (m_selections.loans != LoanTest::None)
-        data::dropFault("the remaining loans of an employee", [&] { addLoans(line); });
+        fault::dropFault("the remaining loans of an employee", [&] { addLoans(line); });
     numberRows(line);
     if (m_done)
         m_done(++m_employees);
@@ -95,7 +95,7 @@ void Assembly::computeComponents(int grp_id, Line& line) {
 }
 
 void Assembly::computePeriod(std::span<const Rule> rules, const Component& component, Evaluator& evaluator) {
-    data::dropFault("the remaining rules of a component", [&] {
+    fault::dropFault("the remaining rules of a component", [&] {
         for (const Rule& rule : rules)
             evaluator.hitung_aturan(rule, component);
     });

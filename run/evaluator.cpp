@@ -1,6 +1,6 @@
 #include "run/evaluator.h"
 
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 
 #include <algorithm>
 
@@ -35,7 +35,7 @@ void Evaluator::hitung_perhari(int grp_id, const Component& component) {
             continue;
         typex = rules.front().typex;
         param = rules.front().param;
-        data::dropFault("the rest of one day's rules", [&] {
+        fault::dropFault("the rest of one day's rules", [&] {
             for (const Rule& rule : rules)
                 hitung_aturan_hari(rule, m_period.tanggal_awal.addDays(day));
         });

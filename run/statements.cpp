@@ -1,7 +1,7 @@
 #include "run/statements.h"
 
 #include "schema/settings_keys.h"
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/bool_text.h"
 
 #include <QStringList>
@@ -19,7 +19,7 @@ constexpr auto componentJoin = "left join z_pay_com as com on grp_com.com_id=com
 constexpr auto ruleOrder = "order by com.type, com.no_urut, grp_com.no_urut_ref "_L1;
 
 void readFlag(db::Connection& app, QLatin1String param_id, bool& flag) {
-    data::dropFault("a setting of full attendance", [&] {
+    fault::dropFault("a setting of full attendance", [&] {
         db::Result row = app.query(u"Select * from global_setting where param_id='"_s + param_id + u"' "_s);
         row.next();
         flag = boolFromText(row.text(u"param_value"_s));

@@ -1,7 +1,7 @@
 #include "frame/base/dept_tree.h"
 
-#include "toolkit/data/drop_fault.h"
 #include "toolkit/data/fault.h"
+#include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/sql_text.h"
 
 #include <QPainter>
@@ -88,7 +88,7 @@ void placeAll(QTreeWidgetItem* top, std::vector<Department> departments) {
 }
 
 void insertRoot(Session& session, QTreeWidgetItem* top) {
-    data::dropFault("the first department", [&] {
+    fault::dropFault("the first department", [&] {
         session.ADOCom_update.execute(QStringLiteral("insert into dept(dept_id_auto,dept_name) values(1,") +
                                       quotedSqlText(firstDepartment) + u')');
     });

@@ -1,7 +1,7 @@
 #include "frame/base/language.h"
 
 #include "schema/settings_keys.h"
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/sql_text.h"
 #include "toolkit/ui/grid_column.h"
 #include "toolkit/ui/input_dialog.h"
@@ -93,7 +93,7 @@ QObject* findComponent(QWidget& form, const QString& name) {
 }
 
 void Language::ApplyLanguage(QWidget& form) {
-    data::dropFault("the captions of a form", [&] { applyRows(form); });
+    fault::dropFault("the captions of a form", [&] { applyRows(form); });
 }
 
 void Language::applyRows(QWidget& form) {

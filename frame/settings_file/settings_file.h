@@ -1,16 +1,16 @@
 #pragma once
 
+#include "toolkit/fault/fault.h"
+
 #include <QString>
 #include <QStringList>
-
-#include <stdexcept>
 
 namespace settings {
 
 /// A settings file that cannot be read, written or understood; the text says why and names the file, never a value.
-class SettingsFileError final : public std::runtime_error {
+class SettingsFileError final : public fault::Fault {
 public:
-    using std::runtime_error::runtime_error;
+    using fault::Fault::Fault;
 };
 
 /// Where the databases are and who logs in, decoded. `server` is a host name or a dotted IPv4 address.

@@ -5,7 +5,7 @@
 #include "frame/base/log.h"
 #include "frame/window/recap.h"
 #include "schema/settings_keys.h"
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 #include "toolkit/ui/enter_key.h"
 #include "toolkit/ui/handler.h"
 #include "toolkit/ui/wait_cursor.h"
@@ -82,7 +82,7 @@ bool Tfrm_menu::FormCreate() {
     }
     for (MagnifyingImage* image : {m_ui->Image1, m_ui->Image2, m_ui->Image3})
         image->setMagnification(imageMagnification);
-    data::dropFault("opening the sessions", [this] { frame::openSessions(m_folder, *m_ping, m_session); });
+    fault::dropFault("opening the sessions", [this] { frame::openSessions(m_folder, *m_ping, m_session); });
     first_activate = m_session.ADOConn.isOpen();
     if (first_activate)
         Timer1.start();

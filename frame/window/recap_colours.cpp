@@ -1,7 +1,7 @@
 #include "frame/window/recap_colours.h"
 
 #include "schema/settings_keys.h"
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/bool_text.h"
 #include "toolkit/ui/colour_text.h"
 
@@ -61,7 +61,7 @@ constexpr std::array rules{
 ColourSettings readColourSettings(frame::Session& session) {
     ColourSettings settings;
     const auto read = [&](QLatin1String key, auto& field, auto fromText) {
-        data::dropFault("a colour setting", [&] { field = fromText(valueOf(session, key)); });
+        fault::dropFault("a colour setting", [&] { field = fromText(valueOf(session, key)); });
     };
     for (const auto& [key, flag] : flags)
         read(key, settings.*flag, boolFromText);

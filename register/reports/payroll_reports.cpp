@@ -1,7 +1,7 @@
 #include "register/reports/payroll_reports.h"
 
 #include "register/reports/statements.h"
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 
 using namespace Qt::StringLiterals;
 
@@ -32,7 +32,7 @@ Heading PayrollReports::readHeading(const Request& request) {
 // The wide rows of these statements outgrow the server's usual limit for temporary tables in memory after a few
 // thousand lines; on disk they take twice as long. A server that refuses only loses the time.
 void PayrollReports::allowLargeTemporaryTables() {
-    data::dropFault("the limit of temporary tables", [this] {
+    fault::dropFault("the limit of temporary tables", [this] {
         m_session.ADOConn.execute(u"SET SESSION tmp_table_size=268435456, max_heap_table_size=268435456"_s);
     });
 }

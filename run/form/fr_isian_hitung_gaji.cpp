@@ -2,7 +2,7 @@
 
 #include "run/compute.h"
 #include "toolkit/data/clear_data_set.h"
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/number_text.h"
 #include "toolkit/ui/busy_screen.h"
 #include "toolkit/ui/handler.h"
@@ -268,7 +268,7 @@ bool Tfrm_isian_hitung_gaji::cek_nama_proses() {
 void Tfrm_isian_hitung_gaji::btn_simpanClick() {
     m_copy.cds_m.settle();
     if (cek_nama_proses() && m_task.mode != RunFormTask::View)
-        data::dropFault("saving a run", [this] { simpan(); });
+        fault::dropFault("saving a run", [this] { simpan(); });
     m_task.refresh();
 }
 
@@ -291,7 +291,7 @@ void Tfrm_isian_hitung_gaji::save_log(const QString& action) {
         QStringLiteral("%1 - %2 - [%3, %4 -- %5]")
             .arg(windowTitle(), action, m_ui->dbe_nama->text(), m_copy.cds_m.date(u"date1").toString(date),
                  m_copy.cds_m.date(u"date2").toString(date));
-    data::dropFault("the audit row of a saved run", [&] {
+    fault::dropFault("the audit row of a saved run", [&] {
         m_services.audit.WriteUserLog(m_services.session.login_id, note, frame::payrollModule,
                                       m_services.session.clock());
     });

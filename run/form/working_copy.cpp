@@ -1,7 +1,7 @@
 #include "run/form/working_copy.h"
 
 #include "run/form/form_run_view.h"
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 
 #include <cmath>
 #include <utility>
@@ -208,9 +208,9 @@ WorkingCopy::Sums WorkingCopy::sums() const {
 }
 
 void WorkingCopy::applyAll() {
-    data::dropFault("saving the header of a run", [this] { cds_m.applyUpdates(); });
-    data::dropFault("saving the lines of a run", [this] { cds_d.applyUpdates(); });
-    data::dropFault("saving the rows of a run", [this] { cds_sd.applyUpdates(); });
+    fault::dropFault("saving the header of a run", [this] { cds_m.applyUpdates(); });
+    fault::dropFault("saving the lines of a run", [this] { cds_d.applyUpdates(); });
+    fault::dropFault("saving the rows of a run", [this] { cds_sd.applyUpdates(); });
 }
 
 } // namespace run

@@ -1,5 +1,5 @@
-#include "toolkit/data/drop_fault.h"
 #include "toolkit/db/fault.h"
+#include "toolkit/fault/drop_fault.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 static std::string loggedUnder(const QString& rules, const std::function<void()>& action) {
     QLoggingCategory::setFilterRules(rules);
     testing::internal::CaptureStderr();
-    EXPECT_FALSE(data::dropFault("delete of a run", action));
+    EXPECT_FALSE(fault::dropFault("delete of a run", action));
     QLoggingCategory::setFilterRules({});
     return testing::internal::GetCapturedStderr();
 }
@@ -19,7 +19,7 @@ TEST(DroppedFaults, AreSilentUnlessSomebodyListens) {
     const auto failed = [] { throw std::range_error("too far"); };
     EXPECT_EQ(loggedUnder({}, refused), "");
     EXPECT_EQ(loggedUnder(u"orvane.fault=true"_s, refused),
-              "orvane.fault: delete of a run | 1146 no such table | DELETE FROM x\n");
+              "orvane.fault: delete of a run | no such table | 1146 42S02 | DELETE FROM x\n");
     EXPECT_EQ(loggedUnder(u"orvane.fault=true"_s, failed), "orvane.fault: delete of a run | too far\n");
-    EXPECT_TRUE(data::dropFault("nothing", [] {}));
+    EXPECT_TRUE(fault::dropFault("nothing", [] {}));
 }

@@ -1,8 +1,8 @@
 #include "tests/data/listing.h"
 #include "toolkit/data/clear_data_set.h"
-#include "toolkit/data/drop_fault.h"
 #include "toolkit/data/fault.h"
 #include "toolkit/data/mem_table.h"
+#include "toolkit/fault/drop_fault.h"
 
 namespace {
 
@@ -122,7 +122,7 @@ TEST_F(Walk, DeletingWhileSteppingBackMeetsAll) {
 
 TEST_F(Walk, FailingHandlersLeaveTheSetUsable) {
     set.events.newRecord = [] { throw data::Fault(u"no number"_s); };
-    EXPECT_FALSE(data::dropFault("append", [this] { set.append(); }));
+    EXPECT_FALSE(fault::dropFault("append", [this] { set.append(); }));
     EXPECT_EQ(set.state(), data::State::Browse);
     set.events.beforePost = [] { throw data::Fault(u"refused"_s); };
     set.editValue(u"no", 8);

@@ -1,17 +1,18 @@
 #pragma once
 
-#include <QString>
-
-#include <stdexcept>
+#include "toolkit/fault/fault.h"
 
 namespace db {
 
 /// A statement or a connect that failed. Carries what the server or the client library said.
-class Fault final : public std::runtime_error {
+class Fault final : public fault::Fault {
 public:
     /// code: the server's or the client library's number (0 where this program found the fault itself);
     /// sqlState: five characters; message: as the server words it; statement: the text that failed, may be empty.
     Fault(unsigned code, QString sqlState, const QString& message, QString statement);
+
+    /// Code, SQL state and statement.
+    [[nodiscard]] QString details() const override;
 
     [[nodiscard]] unsigned code() const { return m_code; }
     [[nodiscard]] const QString& sqlState() const { return m_sqlState; }

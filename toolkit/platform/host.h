@@ -1,11 +1,11 @@
 #pragma once
 
+#include "toolkit/fault/fault.h"
 #include "toolkit/platform/descriptor.h"
 
 #include <QString>
 
 #include <chrono>
-#include <stdexcept>
 
 namespace platform {
 
@@ -17,9 +17,9 @@ namespace platform {
 [[nodiscard]] QString ResolveHost(const QString& text);
 
 /// No echo can be sent from this process; the text is meant for the user.
-class PingUnavailable final : public std::runtime_error {
+class PingUnavailable final : public fault::Fault {
 public:
-    using std::runtime_error::runtime_error;
+    using fault::Fault::Fault;
 };
 
 /// What to tell the user when neither kind of socket opens, from the errno of the datagram and of the raw try: no

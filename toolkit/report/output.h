@@ -1,20 +1,19 @@
 #pragma once
 
+#include "toolkit/fault/fault.h"
 #include "toolkit/report/document.h"
 #include "toolkit/report/type_setter.h"
 
 #include <QPainter>
-
-#include <stdexcept>
 
 class QPrinter;
 
 namespace report {
 
 /// A file that cannot be written, or a printer that does not take the pages.
-class OutputFault final : public std::runtime_error {
+class OutputFault final : public fault::Fault {
 public:
-    using std::runtime_error::runtime_error;
+    using fault::Fault::Fault;
 };
 
 /// Draws pages. The painter's units are dots (dotsPerMm) from the paper's upper left corner.

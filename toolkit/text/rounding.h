@@ -1,18 +1,19 @@
 #pragma once
 
+#include "toolkit/fault/fault.h"
+
 #include <QtGlobal>
 
 #include <limits>
-#include <stdexcept>
 
 /// Arithmetic between money and factors: ties come out right only with a significand of 64 bits or more.
 using Extended = long double;
 static_assert(std::numeric_limits<Extended>::digits >= 64);
 
 /// A division by zero, or a number that its integer form cannot hold.
-class ArithmeticFault final : public std::runtime_error {
+class ArithmeticFault final : public fault::Fault {
 public:
-    using std::runtime_error::runtime_error;
+    using fault::Fault::Fault;
 };
 
 /// The nearest whole number, ties to the even neighbour. Throws ArithmeticFault where it does not fit.

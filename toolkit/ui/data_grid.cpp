@@ -1,6 +1,6 @@
 #include "toolkit/ui/data_grid.h"
 
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 #include "toolkit/ui/band_header.h"
 
 #include <QKeyEvent>
@@ -131,7 +131,7 @@ void DataGrid::mousePressEvent(QMouseEvent* event) {
 bool DataGrid::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
     const bool opened = QTableView::edit(index, trigger, event);
     if (opened && indexWidget(index) && dataSet()->state() == data::State::Browse)
-        data::dropFault("editing a record that takes no changes", [this] { dataSet()->edit(); });
+        fault::dropFault("editing a record that takes no changes", [this] { dataSet()->edit(); });
     return opened;
 }
 

@@ -5,7 +5,7 @@
 #include <exception>
 #include <utility>
 
-namespace data {
+namespace fault {
 
 /// Category "orvane.fault": silent unless the logging rules switch it on.
 Q_DECLARE_LOGGING_CATEGORY(faultLog)
@@ -25,4 +25,4 @@ bool dropFault(const char* what, Action&& action) {
     }
 }
 
-} // namespace data
+} // namespace fault
