@@ -4,6 +4,7 @@
 #include <net/if.h>
 #include <sched.h>
 #include <sys/ioctl.h>
+#include <sys/mount.h>
 #include <sys/socket.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -24,12 +25,12 @@ bool writeFile(const char* path, const std::string& text) {
     return file.good();
 }
 
-/// Puts this process into a network of its own, which holds nothing but a loopback.
+/// Puts this process into a network of its own, which holds nothing but a loopback, and lets it cover files unseen.
 bool isolate() {
     const std::string uid = std::to_string(::getuid());
     const std::string gid = std::to_string(::getgid());
-    if (::unshare(CLONE_NEWNET) != 0) {
-        if (::unshare(CLONE_NEWUSER | CLONE_NEWNET) != 0)
+    if (::unshare(CLONE_NEWNET | CLONE_NEWNS) != 0) {
+        if (::unshare(CLONE_NEWUSER | CLONE_NEWNET | CLONE_NEWNS) != 0)
             return false;
         writeFile("/proc/self/setgroups", "deny");
         if (!writeFile("/proc/self/uid_map", "0 " + uid + " 1") || !writeFile("/proc/self/gid_map", "0 " + gid + " 1"))
@@ -48,13 +49,21 @@ bool dropCapabilities() {
     return ::syscall(SYS_capset, &header, none) == 0;
 }
 
+/// As on a machine without the program: what lies in its place cannot be run.
+bool hidePing() {
+    return ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
+           ::mount("/dev/null", "/usr/bin/ping", nullptr, MS_BIND, nullptr) == 0;
+}
+
 // A new network allows datagram sockets to nobody, so that they are the case to ask for.
 bool prepare(const std::string& mode) {
     if (!isolate())
         return false;
     if (mode == "datagram")
         return writeFile("/proc/sys/net/ipv4/ping_group_range", "0 0") && dropCapabilities();
-    return mode != "denied" || dropCapabilities();
+    if (mode == "missing" && !hidePing())
+        return false;
+    return (mode != "refused" && mode != "missing") || dropCapabilities();
 }
 
 /// From here on nobody answers, but one reply that came too late still waits in the socket.
@@ -65,12 +74,15 @@ bool silence(platform::PingSocket& ping) {
 
 } // namespace
 
-// isolated_ping raw|datagram|silent|denied: pings its loopback where only the named kind of socket may be had, where
-// nobody answers, or where none may be had.
+// isolated_ping raw|datagram|refused|missing|silent: pings its loopback where only the named kind of socket may be had,
+// where none may be had, where the installed program is missing too, or where nobody answers.
+// isolated_ping run COMMAND...: runs the command there.
 int main(int argc, char** argv) {
-    const std::string mode = argc == 2 ? argv[1] : "";
+    const std::string mode = argc >= 2 ? argv[1] : "";
     if (!prepare(mode))
         return exitNotPossible;
+    if (mode == "run")
+        return ::execvp(argv[2], argv + 2);
     try {
         platform::PingSocket ping;
         if (mode == "silent" && !silence(ping))

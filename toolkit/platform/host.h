@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <netinet/in.h>
+
 #include <chrono>
 
 namespace platform {
@@ -26,7 +28,8 @@ public:
 /// sockets to be had at all, no ICMP on this machine, or no permission.
 [[nodiscard]] const char* pingFailureText(int datagramError, int rawError);
 
-/// The handle for ICMP echoes: an unprivileged datagram socket where the machine allows it, a raw one else.
+/// The handle for ICMP echoes: an unprivileged datagram socket where the machine allows it, a raw one else, and the
+/// installed ping where this user is refused both.
 class PingSocket final {
 public:
     /// Throws PingUnavailable.
@@ -38,7 +41,11 @@ public:
                                 std::chrono::milliseconds timeout = std::chrono::milliseconds(1000));
 
 private:
+    void takeProgram(const char* failure);
+    [[nodiscard]] bool pingBySocket(in_addr address, std::chrono::milliseconds timeout);
+
     Descriptor m_socket;
+    QString m_program; ///< sends the echo where there is no socket
     bool m_isRaw = false;
     quint16 m_sequence = 0;
 };

@@ -1,5 +1,6 @@
 #include "toolkit/platform/host.h"
 #include "toolkit/platform/log.h"
+#include "toolkit/platform/ping_program.h"
 
 #include <QByteArray>
 
@@ -17,6 +18,7 @@
 #include <initializer_list>
 #include <optional>
 #include <span>
+#include <string_view>
 
 namespace platform {
 
@@ -27,6 +29,7 @@ using Clock = std::chrono::steady_clock;
 constexpr size_t dataLength = 100;
 constexpr unsigned char dataByte = 0xAA;
 constexpr int timeToLive = 64;
+constexpr const char* refusedText = "Unable to get ping handle";
 
 struct Echo {
     icmphdr header{};
@@ -118,36 +121,50 @@ const char* pingFailureText(int datagramError, int rawError) {
     const auto isUnknown = [](int error) {
         return isOneOf(error, {EPROTONOSUPPORT, ESOCKTNOSUPPORT, EPROTOTYPE, EINVAL});
     };
-    return isUnknown(datagramError) && isUnknown(rawError) ? "Error loading dll functions"
-                                                           : "Unable to get ping handle";
+    return isUnknown(datagramError) && isUnknown(rawError) ? "Error loading dll functions" : refusedText;
 }
 
 PingSocket::PingSocket() : m_socket(icmpSocket(SOCK_DGRAM)) {
+    const int datagramError = errno;
     if (!m_socket) {
-        const int datagramError = errno;
         m_isRaw = true;
         m_socket = icmpSocket(SOCK_RAW);
-        if (!m_socket)
-            throw PingUnavailable(pingFailureText(datagramError, errno));
     }
-    if (::setsockopt(m_socket.get(), IPPROTO_IP, IP_TTL, &timeToLive, sizeof timeToLive) != 0)
+    if (!m_socket)
+        takeProgram(pingFailureText(datagramError, errno));
+    else if (::setsockopt(m_socket.get(), IPPROTO_IP, IP_TTL, &timeToLive, sizeof timeToLive) != 0)
         throw PingUnavailable(pingFailureText(errno, errno));
 }
 
+void PingSocket::takeProgram(const char* failure) {
+    // Out of sockets, or without ICMP, the program would get no further.
+    if (failure == std::string_view(refusedText))
+        m_program = installedPing();
+    if (m_program.isEmpty())
+        throw PingUnavailable(failure);
+    qCInfo(platformLog) << "no socket for echoes; they go through" << m_program;
+}
+
 bool PingSocket::PingHost(const QString& address, std::chrono::milliseconds timeout) {
+    in_addr host{};
+    if (inet_aton(address.toLatin1().constData(), &host) == 0)
+        return false;
+    const bool answered = m_program.isEmpty() ? pingBySocket(host, timeout) : pingByProgram(m_program, host, timeout);
+    if (!answered)
+        qCWarning(platformLog) << "no echo from" << address;
+    return answered;
+}
+
+bool PingSocket::pingBySocket(in_addr address, std::chrono::milliseconds timeout) {
     const Clock::time_point deadline = Clock::now() + timeout;
     sockaddr_in host{};
     host.sin_family = AF_INET;
+    host.sin_addr = address;
     const Echo echo = request(++m_sequence);
     // Connected, the socket hears that host alone.
-    const bool sent = inet_aton(address.toLatin1().constData(), &host.sin_addr) != 0 &&
-                      ::connect(m_socket.get(), reinterpret_cast<const sockaddr*>(&host), sizeof host) == 0 &&
-                      ::send(m_socket.get(), &echo, sizeof echo, MSG_NOSIGNAL) == ssize_t(sizeof echo);
-    if (!sent || !awaitReply(m_socket.get(), {echo.header, m_isRaw}, deadline)) {
-        qCWarning(platformLog) << "no echo from" << address << (sent ? "in time" : "since none could be sent");
-        return false;
-    }
-    return true;
+    return ::connect(m_socket.get(), reinterpret_cast<const sockaddr*>(&host), sizeof host) == 0 &&
+           ::send(m_socket.get(), &echo, sizeof echo, MSG_NOSIGNAL) == ssize_t(sizeof echo) &&
+           awaitReply(m_socket.get(), {echo.header, m_isRaw}, deadline);
 }
 
 } // namespace platform

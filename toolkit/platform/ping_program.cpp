@@ -1,0 +1,49 @@
+#include "toolkit/platform/ping_program.h"
+
+#include <QFileInfo>
+#include <QProcess>
+
+#include <arpa/inet.h>
+
+#include <array>
+
+namespace platform {
+
+namespace {
+
+/// Beyond the wait for the reply, for a busy machine to start and end the program.
+constexpr std::chrono::seconds slack(5);
+
+QString dotted(in_addr address) {
+    std::array<char, INET_ADDRSTRLEN> text{};
+    inet_ntop(AF_INET, &address, text.data(), text.size());
+    return QString::fromLatin1(text.data());
+}
+
+} // namespace
+
+// Fixed places: a search path is the caller's to set.
+QString installedPing() {
+    for (const QString& path : {QStringLiteral("/usr/bin/ping"), QStringLiteral("/bin/ping")})
+        if (QFileInfo(path).isFile() && QFileInfo(path).isExecutable())
+            return path;
+    return {};
+}
+
+bool pingByProgram(const QString& program, in_addr address, std::chrono::milliseconds timeout) {
+    const QString seconds = QString::number(double(timeout.count()) / 1000);
+    QProcessEnvironment environment;
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    QProcess ping;
+    ping.setProcessEnvironment(environment);
+    ping.setStandardInputFile(QProcess::nullDevice());
+    ping.setStandardOutputFile(QProcess::nullDevice());
+    ping.setStandardErrorFile(QProcess::nullDevice());
+    ping.start(program, {QStringLiteral("-n"), QStringLiteral("-q"), QStringLiteral("-c"), QStringLiteral("1"),
+                         QStringLiteral("-s"), QStringLiteral("100"), QStringLiteral("-p"), QStringLiteral("aa"),
+                         QStringLiteral("-t"), QStringLiteral("64"), QStringLiteral("-W"), seconds, dotted(address)});
+    return ping.waitForFinished(int((timeout + slack).count())) && ping.exitStatus() == QProcess::NormalExit &&
+           ping.exitCode() == 0;
+}
+
+} // namespace platform

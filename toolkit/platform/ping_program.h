@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QString>
+
+#include <netinet/in.h>
+
+#include <chrono>
+
+namespace platform {
+
+/// The installed ping, which may send echoes where its caller may not; empty where there is none.
+[[nodiscard]] QString installedPing();
+
+/// One echo of 100 bytes with a time-to-live of 64, sent by that program. True where it reports the reply.
+[[nodiscard]] bool pingByProgram(const QString& program, in_addr address, std::chrono::milliseconds timeout);
+
+} // namespace platform
