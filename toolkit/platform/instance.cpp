@@ -8,26 +8,25 @@
 #include <sys/socket.h>
 #include <sys/un.h>
 
-#include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstddef>
 #include <cstring>
 #include <system_error>
+#include <thread>
 
 namespace platform {
 
 namespace {
 
-constexpr QByteArrayView raiseMessage = "raise";
-
 // A leading zero byte puts the name into the system's own table instead of a folder: nothing is left behind by a
-// killed process. The table has no owners, so any user of the machine shares the place, as told by the path alone.
+// killed process. The table has no owners: each user has a name of his own, and whoever else takes it is seen through.
 QByteArray socketName(const QString& programPath) {
     const QFileInfo program(programPath);
     const QString canonical = program.canonicalFilePath();
     const QString path = canonical.isEmpty() ? program.absoluteFilePath() : canonical;
     const QByteArray hash = QCryptographicHash::hash(path.toUtf8(), QCryptographicHash::Sha256).toHex();
-    return QByteArray(1, '\0') + "orvane-payroll-" + hash;
+    return QByteArray(1, '\0') + "orvane-payroll-" + QByteArray::number(::geteuid()) + '-' + hash;
 }
 
 /// A socket address as the system's calls take it.
@@ -49,29 +48,41 @@ private:
     throw std::system_error(errno, std::system_category(), what);
 }
 
-Descriptor datagramSocket() {
-    Descriptor fd(::socket(AF_UNIX, SOCK_DGRAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
+Descriptor newSocket() {
+    Descriptor fd(::socket(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC | SOCK_NONBLOCK, 0));
     if (!fd)
         raiseSystemError("instance socket");
     return fd;
 }
 
 bool takePlace(const Descriptor& fd, const Address& place) {
-    if (::bind(fd.get(), place.get(), place.length()) == 0)
+    if (::bind(fd.get(), place.get(), place.length()) == 0) {
+        if (::listen(fd.get(), SOMAXCONN) != 0)
+            raiseSystemError("instance socket");
         return true;
+    }
     if (errno != EADDRINUSE)
         raiseSystemError("instance name");
     return false;
 }
 
-/// False where nobody holds the place any more. A holder too busy to take the message is running all the same.
-bool askToRaise(const Descriptor& fd, const Address& place) {
-    const ssize_t sent =
-        ::sendto(fd.get(), raiseMessage.data(), size_t(raiseMessage.size()), MSG_NOSIGNAL, place.get(), place.length());
-    if (sent >= 0)
-        return true;
-    qCWarning(platformLog) << "running instance not told:" << std::strerror(errno);
-    return errno != ECONNREFUSED;
+/// Who is at the other end, as the system noted it when that end began to listen or connected.
+bool isOwnUser(const Descriptor& connection) {
+    ucred peer{};
+    socklen_t length = sizeof peer;
+    return ::getsockopt(connection.get(), SOL_SOCKET, SO_PEERCRED, &peer, &length) == 0 && peer.uid == ::geteuid();
+}
+
+enum class Holder { Nobody, OwnUser, Stranger };
+
+/// Whose the place is. One of the own user has been asked to raise itself by the connection alone.
+Holder callHolder(const Address& place) {
+    const Descriptor caller = newSocket();
+    if (::connect(caller.get(), place.get(), place.length()) == 0)
+        return isOwnUser(caller) ? Holder::OwnUser : Holder::Stranger;
+    // Given up meanwhile, or taken and not listened to yet. Any other refusal comes from somebody who keeps callers
+    // away.
+    return errno == ECONNREFUSED ? Holder::Nobody : Holder::Stranger;
 }
 
 } // namespace
@@ -86,22 +97,28 @@ InstanceGuard::~InstanceGuard() = default;
 
 bool InstanceGuard::CheckPreviousInstance() {
     const Address place(m_name);
-    Descriptor fd = datagramSocket();
-    // The holder may die between the two calls; then the place is free, or another start has just taken it.
-    constexpr int attempts = 10;
+    Descriptor fd = newSocket();
+    // Between two calls a holder may die or another start may take the place.
+    constexpr int attempts = 100;
     for (int attempt = 0; attempt < attempts; ++attempt) {
         if (takePlace(fd, place)) {
             m_socket = std::move(fd);
             return false;
         }
-        if (askToRaise(fd, place))
+        const Holder holder = callHolder(place);
+        if (holder == Holder::OwnUser)
             return true;
+        if (holder == Holder::Stranger)
+            break;
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
     }
-    errno = EAGAIN;
-    raiseSystemError("instance name");
+    qCWarning(platformLog) << "another user holds the name of this program; later starts will not find this one";
+    return false;
 }
 
 void InstanceGuard::listen() {
+    if (!m_socket)
+        return;
     m_notifier = std::make_unique<QSocketNotifier>(m_socket.get(), QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &InstanceGuard::receive);
 }
@@ -111,14 +128,12 @@ void InstanceGuard::ReleaseInstance() {
     m_socket = Descriptor();
 }
 
-// Anybody on the machine can write here: all but the one message is dropped, and that one does no harm.
 void InstanceGuard::receive() {
-    std::array<char, 16> buffer{};
-    const ssize_t length = ::recv(m_socket.get(), buffer.data(), buffer.size(), MSG_TRUNC);
-    if (length == raiseMessage.size() && raiseMessage == QByteArrayView(buffer.data(), length))
+    const Descriptor caller(::accept4(m_socket.get(), nullptr, nullptr, SOCK_CLOEXEC));
+    if (caller && isOwnUser(caller))
         Q_EMIT raiseRequested();
     else
-        qCWarning(platformLog) << "message that is no request to raise, bytes:" << length;
+        qCWarning(platformLog) << "another user asked to raise this program";
 }
 
 } // namespace platform

@@ -13,8 +13,9 @@ namespace platform {
 /// Path of the program that runs in this process.
 [[nodiscard]] QString runningProgram();
 
-/// Keeps one running instance per installed path. What marks the running one is a socket whose name follows from the
-/// path; the system frees it when the process dies, however it dies. Needs no application object before listen().
+/// Keeps one running instance per installed path and user. What marks the running one is a socket whose name follows
+/// from both; the system frees it when the process dies, however it dies. Another user's process can neither end a
+/// start nor raise the running one, whatever it does with that name. Needs no application object before listen().
 class InstanceGuard final : public QObject {
     Q_OBJECT
 
@@ -24,7 +25,7 @@ public:
     ~InstanceGuard() override;
 
     /// True where another instance runs and this process must end; that instance has then been asked to raise itself.
-    /// False where this process is now the running instance. Throws std::system_error where neither can be found out.
+    /// False where this process may run. Throws std::system_error where the system has no sockets.
     [[nodiscard]] bool CheckPreviousInstance();
 
     /// From now on raiseRequested() tells each later start; starts that came before this call are told now. Call it
