@@ -147,10 +147,13 @@ TEST_F(Instances, AnotherUserRunsBesideAndNeitherKeepsFromStartingNorRaises) {
     const auto own = start(m_program);
     go(*own);
     EXPECT_EQ(line(*own), "first");
-    const auto other = start(QStringLiteral("setpriv"),
-                             {QStringLiteral("--reuid=nobody"), QStringLiteral("--clear-groups"), m_program});
+    const QStringList asNobody{QStringLiteral("--reuid=nobody"), QStringLiteral("--clear-groups"), m_program};
+    const auto other = start(QStringLiteral("setpriv"), asNobody);
     go(*other);
     EXPECT_EQ(line(*other), "first");
+    const auto third = start(QStringLiteral("setpriv"), asNobody);
+    go(*third);
+    EXPECT_EQ(line(*third), "second");
     kill(*own);
     kill(*other);
 
