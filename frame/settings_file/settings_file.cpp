@@ -3,10 +3,13 @@
 #include "frame/settings_file/field_code.h"
 
 #include <QFile>
-#include <QTemporaryFile>
+#include <QSaveFile>
+
+#include <grp.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 
 namespace settings {
@@ -25,6 +28,37 @@ SettingsFileError failure(const QString& path, const QString& reason) {
 void requireDone(bool done, const QString& path, const QFileDevice& file) {
     if (!done)
         throw failure(path, file.errorString());
+}
+
+void requireSystem(int result, const QString& path) {
+    if (result != 0)
+        throw failure(path, QString::fromLocal8Bit(std::strerror(errno)));
+}
+
+constexpr mode_t forEverybody = 0644;
+constexpr mode_t forGroup = 0640;
+constexpr mode_t forNobodyElse = 0600;
+
+/// Who may read the file. An owner or group of -1 is left to the system.
+struct Access {
+    mode_t mode = forEverybody;
+    uid_t owner = uid_t(-1);
+    gid_t group = gid_t(-1);
+};
+
+Access accessOf(const QString& path, const QString& group) {
+    Access access;
+    struct stat old {};
+    if (::stat(QFile::encodeName(path).constData(), &old) == 0)
+        access = {.mode = old.st_mode & ALLPERMS, .owner = old.st_uid, .group = old.st_gid};
+    if (group.isEmpty())
+        return access;
+    const struct group* entry = ::getgrnam(group.toLocal8Bit().constData());
+    if (entry == nullptr)
+        throw failure(path, QStringLiteral("there is no group ") + group);
+    access.mode = forGroup;
+    access.group = entry->gr_gid;
+    return access;
 }
 
 } // namespace
@@ -51,16 +85,17 @@ DatabaseSettings readSettingsFile(const QString& path) {
     return {.user = fields[0], .server = fields[1], .password = fields[2], .database = fields[3], .port = port};
 }
 
-void writeSettingsFile(const QString& path, const DatabaseSettings& settings) {
+void writeSettingsFile(const QString& path, const DatabaseSettings& settings, const QString& group) {
     const QStringList fields{EncodeField(settings.user), EncodeField(settings.server), EncodeField(settings.password),
                              EncodeField(settings.database), EncodeField(QString::number(settings.port))};
-    QTemporaryFile file(path + QStringLiteral(".XXXXXX"));
-    requireDone(file.open(), path, file);
+    const Access access = accessOf(path, group);
+    QSaveFile file(path);
+    requireDone(file.open(QIODevice::WriteOnly), path, file);
+    requireSystem(::fchmod(file.handle(), forNobodyElse), path);
     requireDone(file.write(fields.join(u' ').toLatin1() + '\n') > 0 && file.flush(), path, file);
-    // Qt's own rename refuses to replace a file.
-    if (std::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(path).constData()) != 0)
-        throw failure(path, QString::fromLocal8Bit(std::strerror(errno)));
-    file.setAutoRemove(false);
+    requireSystem(::fchown(file.handle(), access.owner, access.group), path);
+    requireSystem(::fchmod(file.handle(), access.mode), path);
+    requireDone(file.commit(), path, file);
 }
 
 } // namespace settings

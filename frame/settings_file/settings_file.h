@@ -31,8 +31,9 @@ struct DatabaseSettings {
 /// As readSettingsFields; a port that is no number of 16 bits throws as well.
 [[nodiscard]] DatabaseSettings readSettingsFile(const QString& path);
 
-/// Writes the file anew, readable by its owner only from its first moment, and puts it in place at once: a reader sees
-/// the old file or the new one. Throws SettingsFileError.
-void writeSettingsFile(const QString& path, const DatabaseSettings& settings);
+/// Puts the file in place at once: a reader sees the old one or the new one. A new file may be read by everybody, with
+/// a group by its members alone. A file that was there keeps its mode, owner and group but for a given group, and a
+/// symbolic link stays one. Throws SettingsFileError and leaves the old file where one of these cannot be had.
+void writeSettingsFile(const QString& path, const DatabaseSettings& settings, const QString& group = {});
 
 } // namespace settings

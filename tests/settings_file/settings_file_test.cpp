@@ -8,7 +8,9 @@
 
 #include <gtest/gtest.h>
 
+#include <grp.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <random>
 
@@ -74,7 +76,7 @@ QByteArray mutated(QByteArray file, std::mt19937& random) {
 
 } // namespace
 
-TEST_F(SettingsFile, EveryValueComesBackAsWrittenForItsOwnerAlone) {
+TEST_F(SettingsFile, EveryValueComesBackAsWritten) {
     const QString marks = DecodeBase64(EncodeField(QString()));
     const DatabaseSettings cases[] = {
         {u"root"_s, u"localhost"_s, u"s3cret"_s, u"orvane"_s, 3306},
@@ -83,16 +85,36 @@ TEST_F(SettingsFile, EveryValueComesBackAsWrittenForItsOwnerAlone) {
         {u"aaa"_s, marks, marks + marks, u"=="_s, 1},
         {u"gaji é€ 給与 😀"_s, u"\uFEFFbom"_s, QString(5000, u'x'), QString(QChar(0)), 3307},
     };
-    write("an older file, open to all");
-    ::chmod(QFile::encodeName(m_path).constData(), 0666);
     for (const DatabaseSettings& written : cases) {
         writeSettingsFile(m_path, written);
         EXPECT_EQ(readSettingsFile(m_path), written) << written.user.toStdString();
     }
-    struct stat status {};
-    ASSERT_EQ(::stat(QFile::encodeName(m_path).constData(), &status), 0);
-    EXPECT_EQ(status.st_mode & 07777U, 0600U);
     EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden), QStringList{u"user.tvk"_s});
+}
+
+TEST_F(SettingsFile, IsForEverybodyOrAGroupWhenNewAndStaysAsItWasOnceThere) {
+    const auto access = [this] {
+        struct stat status {};
+        EXPECT_EQ(::stat(QFile::encodeName(m_path).constData(), &status), 0);
+        return QString::asprintf("%o %u:%u", status.st_mode & 07777U, status.st_uid, status.st_gid).toStdString();
+    };
+    const std::string own = std::to_string(::geteuid()) + ':' + std::to_string(::getegid());
+    const mode_t former = ::umask(077);
+    writeSettingsFile(m_path, {});
+    ::umask(former);
+    EXPECT_EQ(access(), "644 " + own);
+    EXPECT_THROW(writeSettingsFile(m_path, {}, u"no such group"_s), SettingsFileError);
+    writeSettingsFile(m_path, {}, QString::fromLocal8Bit(::getgrgid(::getegid())->gr_name));
+    EXPECT_EQ(access(), "640 " + own);
+
+    const QString link = m_folder.filePath(u"link"_s);
+    ASSERT_TRUE(QFile::link(u"user.tvk"_s, link));
+    const bool isRoot = ::geteuid() == 0;
+    ASSERT_TRUE(!isRoot || ::chown(QFile::encodeName(m_path).constData(), 65534, 65533) == 0);
+    ASSERT_EQ(::chmod(QFile::encodeName(m_path).constData(), 0604), 0);
+    writeSettingsFile(link, {});
+    EXPECT_EQ(access(), "604 " + (isRoot ? "65534:65533" : own));
+    EXPECT_EQ(QFile::symLinkTarget(link), m_path);
 }
 
 TEST_F(SettingsFile, IsReadInManyFormsAndRaisesWhereItIsBroken) {
@@ -148,7 +170,7 @@ TEST_F(SettingsFile, TenThousandWrongFilesRaiseOrGiveWholeFieldsOnly) {
 
 TEST_F(SettingsFile, TheToolWritesWhatTheProgramReadsAndShowsAllButThePassword) {
     EXPECT_EQ(tvk(u"user.tvk --user gaji --server db.local --password - --database orvane --port 3307"_s,
-                  "kata sandi-é\nsecond line"),
+                  "kata sandi-é\r\nsecond line"),
               std::pair(0, std::string()));
     EXPECT_EQ(read(), "gaji|db.local|kata sandi-é|orvane|3307");
     EXPECT_EQ(tvk(u"user.tvk --show"_s), std::pair(0, std::string("user:     gaji\nserver:   db.local\n"
@@ -163,6 +185,12 @@ TEST_F(SettingsFile, WrongUseOfTheToolSaysWhatIsWrongAndWritesNothing) {
         {"x.tvk --user u --server s --password p --database d", "--port is missing"},
         {"x.tvk --user u --server s --password p --database d --port 0", "--port takes a number from 1 to 65535"},
         {"x.tvk --user u --server s --password - --database d --port 1", "no password on standard input"},
+        {"x.tvk --user u --server= --password p --database d --port 1", "--server must not be empty"},
+        {"x.tvk --user= --server s --password p --database d --port 1", "--user must not be empty"},
+        {"x.tvk --user u --server s --password p --database= --port 1", "--database must not be empty"},
+        {"x.tvk --user u --server s --password p --database d --port 1 --group no-such",
+         "x.tvk: there is no group no-such"},
+        {"x.tvk --show --port 1", "--show takes no other option"},
         {"x.tvk --show", "x.tvk: No such file or directory"},
     };
     for (const auto& [arguments, message] : cases) {

@@ -21,6 +21,8 @@ QString standardInputLine() {
     std::string line;
     if (!std::getline(std::cin, line))
         throw UsageError("no password on standard input");
+    if (line.ends_with('\r'))
+        line.pop_back();
     return QString::fromStdString(line);
 }
 
@@ -28,6 +30,13 @@ QString required(const QCommandLineParser& parser, const QString& name) {
     if (!parser.isSet(name))
         throw UsageError("--" + name.toStdString() + " is missing");
     return parser.value(name);
+}
+
+QString filled(const QCommandLineParser& parser, const QString& name) {
+    const QString value = required(parser, name);
+    if (value.isEmpty())
+        throw UsageError("--" + name.toStdString() + " must not be empty");
+    return value;
 }
 
 quint16 portNumber(const QString& text) {
@@ -39,14 +48,19 @@ quint16 portNumber(const QString& text) {
 }
 
 settings::DatabaseSettings settingsFrom(const QCommandLineParser& parser) {
-    settings::DatabaseSettings given{.user = required(parser, QStringLiteral("user")),
-                                     .server = required(parser, QStringLiteral("server")),
+    settings::DatabaseSettings given{.user = filled(parser, QStringLiteral("user")),
+                                     .server = filled(parser, QStringLiteral("server")),
                                      .password = required(parser, QStringLiteral("password")),
-                                     .database = required(parser, QStringLiteral("database")),
+                                     .database = filled(parser, QStringLiteral("database")),
                                      .port = portNumber(required(parser, QStringLiteral("port")))};
     if (given.password == u"-")
         given.password = standardInputLine();
     return given;
+}
+
+QString groupFrom(const QCommandLineParser& parser) {
+    const QString name = QStringLiteral("group");
+    return parser.isSet(name) ? filled(parser, name) : QString();
 }
 
 void show(const QString& path) {
@@ -66,6 +80,7 @@ void addOptions(QCommandLineParser& parser) {
         {QStringLiteral("password"), QStringLiteral("Password; - reads it from standard input."), QStringLiteral("P")},
         {QStringLiteral("database"), QStringLiteral("Main database."), QStringLiteral("D")},
         {QStringLiteral("port"), QStringLiteral("Port of the server."), QStringLiteral("N")},
+        {QStringLiteral("group"), QStringLiteral("Only members of this group may read the file."), QStringLiteral("G")},
         {QStringLiteral("show"), QStringLiteral("Show the fields, the password hidden; a foreign field reads aaa.")},
     });
 }
@@ -78,10 +93,12 @@ void run(QCommandLineParser& parser) {
     if (parser.positionalArguments().size() != 1)
         throw UsageError("exactly one FILE is needed");
     const QString path = parser.positionalArguments().constFirst();
-    if (parser.isSet(QStringLiteral("show")))
+    if (!parser.isSet(QStringLiteral("show")))
+        settings::writeSettingsFile(path, settingsFrom(parser), groupFrom(parser));
+    else if (parser.optionNames().size() == 1)
         show(path);
     else
-        settings::writeSettingsFile(path, settingsFrom(parser));
+        throw UsageError("--show takes no other option");
 }
 
 } // namespace
