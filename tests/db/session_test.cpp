@@ -1,8 +1,10 @@
 #include "tests/support/test_database.h"
+#include "toolkit/db/transaction.h"
 
 #include <QElapsedTimer>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <thread>
 
 #include <sys/socket.h>
@@ -104,6 +106,46 @@ TEST_F(Session, AStatementWhoseFateIsUnknownIsNotSentAgain) {
     EXPECT_THROW(m_connection.execute(u"insert into hitung select sleep(30)"_qs), db::Fault);
     killer.join();
     EXPECT_EQ(counted(), QStringList{u"0"_qs});
+}
+
+TEST_F(Session, AQueryWhoseAnswerIsLostIsSentOnceMoreButNotInsideATransaction) {
+    m_database.run(u"create table tries(n int) engine=aria"_qs);
+    const auto triesOf = [this](int losses, bool inside) {
+        m_database.run(
+            u"truncate tries;\ndrop function if exists gone;\n"
+            "create function gone() returns int begin insert into tries values(1); "
+            "if (select count(*) from tries)<=%1 then kill connection_id(); end if; return 7; end;\n"_qs.arg(losses));
+        QString outcome;
+        try {
+            std::optional<db::Transaction> transaction;
+            if (inside)
+                transaction.emplace(m_connection);
+            outcome = TestDatabase::rows(m_connection, u"select gone()"_qs).join(u' ');
+        } catch (const db::Fault& fault) {
+            outcome = fault.isConnectionLoss() ? u"lost"_qs : QString::fromUtf8(fault.what());
+        }
+        return outcome + u" after "_qs + m_database.rows(u"select count(*) from tries"_qs).first();
+    };
+    EXPECT_EQ(QStringList({triesOf(1, false), triesOf(2, false), triesOf(1, true)}),
+              QStringList({u"7 after 2"_qs, u"lost after 2"_qs, u"lost after 1"_qs}));
+}
+
+TEST_F(Session, ATransactionIsGivenUpWholeWithItsSession) {
+    {
+        db::Transaction transaction(m_connection);
+        EXPECT_THROW(db::Transaction inner(m_connection), std::logic_error);
+        m_connection.execute(u"insert into hitung values(1)"_qs);
+        m_database.run(u"kill %1"_qs.arg(sessionId()));
+        EXPECT_THROW(m_connection.execute(u"insert into hitung values(2)"_qs), db::Fault);
+        EXPECT_THROW(m_connection.execute(u"insert into hitung values(3)"_qs), db::Fault) << "no new session inside";
+        EXPECT_THROW(transaction.commit(), db::Fault) << "nothing was there to be committed";
+    }
+    m_connection.execute(u"insert into hitung values(4)"_qs);
+    std::optional<db::Transaction> dropped(std::in_place, m_connection);
+    m_connection.execute(u"insert into hitung values(5)"_qs);
+    dropped.reset();
+    db::inTransaction(m_connection, [this] { m_connection.execute(u"insert into hitung values(6)"_qs); });
+    EXPECT_EQ(m_database.rows(u"select n from hitung"_qs), QStringList({u"4"_qs, u"6"_qs}));
 }
 
 TEST(Waits, EndAConnectAndAReadThatNobodyAnswers) {

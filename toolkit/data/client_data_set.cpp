@@ -1,5 +1,7 @@
 #include "toolkit/data/client_data_set.h"
 
+#include "toolkit/db/transaction.h"
+
 #include <algorithm>
 #include <set>
 #include <span>
@@ -9,8 +11,8 @@ namespace data {
 
 namespace {
 
-template <typename Action>
-void forEachChunk(const std::vector<RowId>& rows, Action&& action) {
+template <typename Row, typename Action>
+void forEachChunk(const std::vector<Row>& rows, Action&& action) {
     constexpr size_t step = TableWriter::rowsPerStatement;
     for (size_t from = 0; from < rows.size(); from += step)
         action(std::span(rows).subspan(from, std::min(step, rows.size() - from)));
@@ -45,11 +47,28 @@ void ClientDataSet::recordRemoved(RowId row, const Record& last) {
 void ClientDataSet::applyUpdates() {
     requireOpen();
     settle();
-    const TableWriter writer(m_provider.table, fields(), m_provider.keys, m_provider.neverWritten);
-    applyDeletes(writer);
-    parkWantedKeys(writer);
-    applyChangedRows(writer);
-    applyInserts(writer);
+    if (m_changes.empty())
+        return;
+    db::inTransaction(m_provider.query->connection(), [this] { sendChanges(); });
+    forgetChanges();
+}
+
+TableWriter ClientDataSet::writer() {
+    requireOpen();
+    settle();
+    return {m_provider.table, fields(), m_provider.keys, m_provider.neverWritten};
+}
+
+void ClientDataSet::sendChanges() {
+    const TableWriter writer = this->writer();
+    sendDeletes(writer);
+    const Parked parked = parkWantedKeys(writer);
+    sendChangedRows(writer, parked);
+    sendInserts(writer, changesOf(Kind::Insert));
+}
+
+void ClientDataSet::sendEverything() {
+    sendInserts(writer(), allRows());
 }
 
 std::vector<RowId> ClientDataSet::changesOf(Kind kind) const {
@@ -75,60 +94,49 @@ std::vector<RowId> ClientDataSet::rowsInTheWay(const TableWriter& writer) const 
     return {inTheWay.begin(), inTheWay.end()};
 }
 
-void ClientDataSet::applyDeletes(const TableWriter& writer) {
+void ClientDataSet::sendDeletes(const TableWriter& writer) {
     forEachChunk(changesOf(Kind::Delete), [&](std::span<const RowId> rows) {
         std::vector<const Record*> records;
         for (const RowId row : rows)
             records.push_back(&m_changes.at(row).loaded);
         send(writer.deleteRows(records));
-        for (const RowId row : rows)
-            m_changes.erase(row);
     });
 }
 
-void ClientDataSet::parkWantedKeys(const TableWriter& writer) {
+ClientDataSet::Parked ClientDataSet::parkWantedKeys(const TableWriter& writer) {
+    Parked parked;
     const size_t field = size_t(writer.keyFields().back());
     if (fields()[field].type != FieldType::Integer)
-        return;
+        return parked;
     // Rows that exchange keys would meet in the middle. Whoever stands in the way first steps aside to a negative
     // number, which no key of the tables has; from there the ordinary update fetches it.
     forEachChunk(rowsInTheWay(writer), [&](std::span<const RowId> rows) {
-        std::vector<Record> parked;
         std::vector<RowUpdate> updates;
-        parked.reserve(rows.size());
         for (const RowId row : rows) {
             const Record& loaded = m_changes.at(row).loaded;
-            parked.push_back(loaded);
-            parked.back()[field] = -1 - loaded[field].toLongLong();
-            updates.push_back({.loaded = &loaded, .current = &parked.back()});
+            Record& aside = parked.emplace(row, loaded).first->second;
+            aside[field] = -1 - loaded[field].toLongLong();
+            updates.push_back({.loaded = &loaded, .current = &aside});
         }
         send(writer.updateRows(updates, {int(field)}));
-        for (size_t i = 0; i < rows.size(); ++i)
-            m_changes.at(rows[i]).loaded = parked[i];
     });
+    return parked;
 }
 
-void ClientDataSet::applyChangedRows(const TableWriter& writer) {
-    std::map<std::vector<int>, std::vector<RowId>> groups;
-    for (const RowId row : changesOf(Kind::Update))
-        groups[writer.changedFields({.loaded = &m_changes.at(row).loaded, .current = &record(row)})].push_back(row);
-    for (const auto& group : groups)
-        forEachChunk(group.second, [&](std::span<const RowId> rows) { updateRows(writer, rows, group.first); });
+void ClientDataSet::sendChangedRows(const TableWriter& writer, const Parked& parked) {
+    std::map<std::vector<int>, std::vector<RowUpdate>> groups;
+    for (const RowId row : changesOf(Kind::Update)) {
+        const auto aside = parked.find(row);
+        const Record& stored = aside == parked.end() ? m_changes.at(row).loaded : aside->second;
+        const RowUpdate update{.loaded = &stored, .current = &record(row)};
+        groups[writer.changedFields(update)].push_back(update);
+    }
+    for (const auto& [changed, updates] : groups)
+        if (!changed.empty())
+            forEachChunk(updates, [&](std::span<const RowUpdate> rows) { send(writer.updateRows(rows, changed)); });
 }
 
-void ClientDataSet::updateRows(const TableWriter& writer, std::span<const RowId> rows,
-                               const std::vector<int>& changed) {
-    std::vector<RowUpdate> updates;
-    for (const RowId row : rows)
-        updates.push_back({.loaded = &m_changes.at(row).loaded, .current = &record(row)});
-    if (!changed.empty())
-        send(writer.updateRows(updates, changed));
-    for (const RowId row : rows)
-        m_changes.erase(row);
-}
-
-void ClientDataSet::applyInserts(const TableWriter& writer) {
-    const std::vector<RowId> rows = changesOf(Kind::Insert);
+void ClientDataSet::sendInserts(const TableWriter& writer, const std::vector<RowId>& rows) {
     std::vector<const Record*> records;
     records.reserve(rows.size());
     for (const RowId row : rows)
@@ -136,8 +144,6 @@ void ClientDataSet::applyInserts(const TableWriter& writer) {
     for (size_t from = 0; from < rows.size();) {
         const TableWriter::Insert insert = writer.insertRows(std::span(records).subspan(from));
         send(insert.sql);
-        for (const RowId row : std::span(rows).subspan(from, insert.rows))
-            m_changes.erase(row);
         from += insert.rows;
     }
 }

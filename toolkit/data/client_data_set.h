@@ -23,11 +23,20 @@ class ClientDataSet final : public DataSet {
 public:
     explicit ClientDataSet(Provider provider, QObject* parent = nullptr);
 
-    /// Ends a pending edit, then sends deletes, updates, inserts, in this order and many rows at a time. An update
-    /// writes only what differs from the loaded row; a row edited back sends nothing. Rows may exchange their keys.
-    /// Stops at the first statement that fails by throwing db::Fault: what was applied by then is no longer pending,
-    /// the rest still is.
+    /// Ends a pending edit, then sends deletes, updates, inserts, in this order and many rows at a time, in one
+    /// transaction. An update writes only what differs from the loaded row; a row edited back sends nothing. Rows may
+    /// exchange their keys. Throws what db::inTransaction throws; then nothing is stored and all is still pending, but
+    /// for db::CommitUnknown.
     void applyUpdates();
+
+    // The same for several copies in one transaction of the caller's: send each, commit, then tell each.
+    /// Ends a pending edit and sends the changes, which stay pending. Throws db::Fault.
+    void sendChanges();
+    /// Ends a pending edit and inserts every record, changed or not: for rows that the server has no more.
+    void sendEverything();
+    /// What is pending was stored.
+    void forgetChanges() { m_changes.clear(); }
+
     /// Changed rows that were not applied yet, rows edited back included.
     [[nodiscard]] size_t pendingChanges() const { return isOpen() ? m_changes.size() : 0; }
 
@@ -44,13 +53,16 @@ private:
         Record loaded; ///< the row as the server has it; empty for an insert
     };
 
+    /// Rows that stand under another key than the one they were loaded with, as they stand now.
+    using Parked = std::map<RowId, Record>;
+
+    [[nodiscard]] TableWriter writer();
     [[nodiscard]] std::vector<RowId> changesOf(Kind kind) const;
     [[nodiscard]] std::vector<RowId> rowsInTheWay(const TableWriter& writer) const;
-    void applyDeletes(const TableWriter& writer);
-    void parkWantedKeys(const TableWriter& writer);
-    void applyChangedRows(const TableWriter& writer);
-    void updateRows(const TableWriter& writer, std::span<const RowId> rows, const std::vector<int>& changed);
-    void applyInserts(const TableWriter& writer);
+    void sendDeletes(const TableWriter& writer);
+    [[nodiscard]] Parked parkWantedKeys(const TableWriter& writer);
+    void sendChangedRows(const TableWriter& writer, const Parked& parked);
+    void sendInserts(const TableWriter& writer, const std::vector<RowId>& rows);
     void send(const QString& sql) { m_provider.query->connection().execute(sql); }
 
     Provider m_provider;

@@ -110,6 +110,9 @@ public:
     /// For bound edits: starts editing where need be.
     void editValue(QStringView field, const QVariant& value);
 
+    /// Gives the field of every record the value, of those that the filter hides, too; no events.
+    void setEverywhere(QStringView field, const QVariant& value);
+
     void append();
     /// In an empty set this appends.
     void edit();
@@ -144,6 +147,7 @@ protected:
     virtual void recordRemoved(RowId, const Record& /*last*/) {}
 
     [[nodiscard]] const Record& record(RowId row) const { return m_table.record(row); }
+    [[nodiscard]] const std::vector<RowId>& allRows() const { return m_table.allRows(); }
     void requireOpen() const;
 
 private:

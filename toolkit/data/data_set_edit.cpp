@@ -19,6 +19,20 @@ void DataSet::editValue(QStringView field, const QVariant& value) {
     setValue(field, value);
 }
 
+void DataSet::setEverywhere(QStringView field, const QVariant& value) {
+    requireWritable();
+    settle();
+    const size_t index = size_t(fieldIndex(field));
+    for (const RowId row : std::vector(m_table.allRows())) {
+        Record changed = m_table.record(row);
+        changed[index] = toField(value, m_fields[index]);
+        const Record before = m_table.replace(row, std::move(changed));
+        recordReplaced(row, before);
+    }
+    place(m_row);
+    tellViews(&DataSet::reset);
+}
+
 void DataSet::append() {
     requireWritable();
     settle();

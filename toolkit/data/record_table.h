@@ -28,6 +28,8 @@ public:
 
     /// The records that show up, in order.
     [[nodiscard]] const std::vector<RowId>& rows() const { return m_filter ? m_filtered : m_all; }
+    /// Those that the filter hides, too.
+    [[nodiscard]] const std::vector<RowId>& allRows() const { return m_all; }
     /// Place of the record among rows(); -1 where it does not show up.
     [[nodiscard]] int positionOf(RowId row) const;
     /// First record that shows up with the values in the fields.

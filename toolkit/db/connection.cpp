@@ -1,5 +1,6 @@
 #include "toolkit/db/connection.h"
 
+#include <errmsg.h>
 #include <mysql.h>
 #include <poll.h>
 
@@ -25,15 +26,6 @@ void setWaits(MYSQL* session, const Waits& waits) {
 Fault faultOf(MYSQL* session, const QString& sql) {
     return Fault(mysql_errno(session), QString::fromLatin1(mysql_sqlstate(session)),
                  QString::fromUtf8(mysql_error(session)), sql);
-}
-
-/// After these the session is broken, or the server is about to end it; the next statement opens a new one.
-bool endsSession(unsigned code) {
-    constexpr unsigned serverShutdown = 1053;
-    constexpr unsigned interrupted = 1317;
-    constexpr unsigned connectionKilled = 1927;
-    const bool clientLibrary = code >= 2000 && code < 3000;
-    return clientLibrary || code == serverShutdown || code == interrupted || code == connectionKilled;
 }
 
 } // namespace
@@ -89,18 +81,32 @@ bool Connection::peerHasClosed() const {
     return poll(&descriptor, 1, 0) > 0;
 }
 
-void Connection::send(const QByteArray& utf8, const QString& sql) {
-    if (m_session && peerHasClosed())
+void Connection::openAsNeeded(const QString& sql) {
+    if (m_inTransaction && !m_session)
+        throw Fault(CR_SERVER_GONE_ERROR, QStringLiteral("HY000"),
+                    QStringLiteral("The session was lost inside a transaction"), sql);
+    if (m_session && !m_inTransaction && peerHasClosed())
         close();
-    const bool fresh = !m_session;
-    if (fresh)
+    if (m_session)
+        return;
+    try {
         open();
+    } catch (const Fault& fault) {
+        throw fault.whileOpening();
+    }
+}
+
+void Connection::send(const QString& sql) {
+    const bool fresh = !m_session;
+    openAsNeeded(sql);
     ++m_statements;
+    const QByteArray utf8 = sql.toUtf8();
     if (mysql_send_query(m_session.get(), utf8.constData(), static_cast<unsigned long>(utf8.size())) != 0) {
         // A command that could not be written whole was not carried out, so one more try on a new session is safe.
-        if (fresh)
+        if (fresh || m_inTransaction)
             raise(sql);
-        open();
+        close();
+        openAsNeeded(sql);
         if (mysql_send_query(m_session.get(), utf8.constData(), static_cast<unsigned long>(utf8.size())) != 0)
             raise(sql);
     }
@@ -110,13 +116,25 @@ void Connection::send(const QByteArray& utf8, const QString& sql) {
 
 void Connection::raise(const QString& sql) {
     const Fault fault = faultOf(m_session.get(), sql);
-    if (endsSession(fault.code()))
+    // The session is broken, or the server is about to end it; the next statement opens a new one.
+    if (fault.stopsWork())
         close();
     throw fault;
 }
 
 Result Connection::query(const QString& sql) {
-    send(sql.toUtf8(), sql);
+    openAsNeeded(sql);
+    try {
+        return fetch(sql);
+    } catch (const Fault& fault) {
+        if (m_inTransaction || !fault.isConnectionLoss())
+            throw;
+    }
+    return fetch(sql);
+}
+
+Result Connection::fetch(const QString& sql) {
+    send(sql);
     MYSQL_RES* rows = mysql_store_result(m_session.get());
     if (rows)
         return Result(rows);
@@ -126,7 +144,7 @@ Result Connection::query(const QString& sql) {
 }
 
 qint64 Connection::execute(const QString& sql) {
-    send(sql.toUtf8(), sql);
+    send(sql);
     if (MYSQL_RES* rows = mysql_store_result(m_session.get()))
         mysql_free_result(rows);
     else if (mysql_errno(m_session.get()) != 0)

@@ -28,8 +28,8 @@ struct Waits {
 };
 
 /// One session with the server. It opens itself at the first statement and again when the server has gone away: a
-/// statement that is known not to have reached the server is sent once more, one whose fate is unknown is not.
-/// Used from one thread. Everything that fails throws Fault.
+/// statement that is known not to have reached the server is sent once more, one whose fate is unknown only where it
+/// asks for rows. Inside a Transaction nothing is sent again. Used from one thread. Everything that fails throws Fault.
 class Connection final {
 public:
     Connection();
@@ -45,7 +45,7 @@ public:
     void close();
     [[nodiscard]] bool isOpen() const { return m_session != nullptr; }
 
-    /// Runs one statement that yields rows.
+    /// Runs one statement that yields rows and changes nothing.
     [[nodiscard]] Result query(const QString& sql);
     /// Runs one statement that yields no rows; gives the number of rows it touched.
     qint64 execute(const QString& sql);
@@ -54,12 +54,16 @@ public:
     [[nodiscard]] qint64 statementCount() const { return m_statements; }
 
 private:
+    friend class Transaction;
+
     struct Close {
         void operator()(st_mysql* session) const;
     };
 
     void applySessionDefaults();
-    void send(const QByteArray& utf8, const QString& sql);
+    void openAsNeeded(const QString& sql);
+    void send(const QString& sql);
+    [[nodiscard]] Result fetch(const QString& sql);
     [[nodiscard]] bool peerHasClosed() const;
     [[noreturn]] void raise(const QString& sql);
 
@@ -67,6 +71,7 @@ private:
     Waits m_waits;
     std::unique_ptr<st_mysql, Close> m_session;
     qint64 m_statements = 0;
+    bool m_inTransaction = false;
 };
 
 } // namespace db

@@ -16,4 +16,28 @@ QString Fault::details() const {
     return QStringLiteral("%1 %2 | %3").arg(m_code).arg(m_sqlState, m_statement.left(loggedLetters));
 }
 
+bool Fault::isConnectionLoss() const {
+    constexpr unsigned serverShutdown = 1053;
+    constexpr unsigned connectionKilled = 1927;
+    const bool clientLibrary = m_code >= 2000 && m_code < 3000;
+    return m_whileOpening || clientLibrary || m_code == serverShutdown || m_code == connectionKilled;
+}
+
+bool Fault::stopsWork() const {
+    constexpr unsigned interrupted = 1317;
+    return isConnectionLoss() || m_code == interrupted;
+}
+
+bool Fault::isConflict() const {
+    constexpr unsigned lockWaitTimeout = 1205;
+    constexpr unsigned deadlock = 1213; // also what a cluster answers that cannot certify the transaction
+    return m_code == lockWaitTimeout || m_code == deadlock;
+}
+
+Fault Fault::whileOpening() const {
+    Fault fault = *this;
+    fault.m_whileOpening = true;
+    return fault;
+}
+
 } // namespace db

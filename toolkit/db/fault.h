@@ -18,10 +18,21 @@ public:
     [[nodiscard]] const QString& sqlState() const { return m_sqlState; }
     [[nodiscard]] const QString& statement() const { return m_statement; }
 
+    /// The session is lost, or none could be opened: nothing is known of what the statement asked for.
+    [[nodiscard]] bool isConnectionLoss() const;
+    /// Nothing that follows is worth trying: the connection is lost, or somebody cancelled the statement.
+    [[nodiscard]] bool stopsWork() const;
+    /// Another session's transaction was in the way; the whole transaction may succeed when it is repeated.
+    [[nodiscard]] bool isConflict() const;
+
+    /// The same as the fault of a connection that could not be opened, whatever the reason.
+    [[nodiscard]] Fault whileOpening() const;
+
 private:
     unsigned m_code;
     QString m_sqlState;
     QString m_statement;
+    bool m_whileOpening = false;
 };
 
 } // namespace db

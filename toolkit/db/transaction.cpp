@@ -1,0 +1,52 @@
+#include "toolkit/db/transaction.h"
+
+namespace db {
+
+Transaction::Transaction(Connection& connection) : m_connection(connection) {
+    if (connection.m_inTransaction)
+        throw std::logic_error("A transaction inside another one");
+    connection.execute(QStringLiteral("START TRANSACTION"));
+    connection.m_inTransaction = true;
+}
+
+Transaction::~Transaction() {
+    if (!m_connection.m_inTransaction)
+        return;
+    try {
+        if (m_connection.isOpen())
+            m_connection.execute(QStringLiteral("ROLLBACK"));
+    } catch (const Fault&) {
+        // Without its session the server rolls back by itself.
+        m_connection.close();
+    }
+    m_connection.m_inTransaction = false;
+}
+
+void Transaction::commit() {
+    const bool canArrive = m_connection.isOpen();
+    try {
+        m_connection.execute(QStringLiteral("COMMIT"));
+    } catch (const Fault& fault) {
+        if (canArrive && fault.stopsWork())
+            throw CommitUnknown(fault.what());
+        throw;
+    }
+    m_connection.m_inTransaction = false;
+}
+
+void inTransaction(Connection& connection, const std::function<void()>& action) {
+    constexpr int repeats = 3;
+    for (int done = 0;; ++done) {
+        try {
+            Transaction transaction(connection);
+            action();
+            transaction.commit();
+            return;
+        } catch (const Fault& fault) {
+            if (!fault.isConflict() || done == repeats)
+                throw;
+        }
+    }
+}
+
+} // namespace db
