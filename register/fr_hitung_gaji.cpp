@@ -34,7 +34,7 @@ const QString selectEmployees = QStringLiteral(
    left join dept as d2 on e.dept_id_auto=d2.dept_id_auto
    left join func as f on e.func_id_auto=f.func_id_auto
    left join z_pay_grp_emp as grp on d.emp_id_auto=grp.emp_id_auto
-   where d.process_id=:process_id ) as proses_d order by col_str, col_num)");
+   where d.process_id=:process_id ) as proses_d order by col_str, col_num, emp_id_auto)");
 
 QString selectDetails(int type) {
     return QStringLiteral(R"(select sd.*, c.com_kode, c.com_name, e.pin, e.nik
@@ -149,10 +149,10 @@ void Tfrm_hitung_gaji::FormClose() {
 QString Tfrm_hitung_gaji::kondisi() const {
     QString text = QStringLiteral("\nwhere DATE(date1)>=DATE('%1') \nand DATE(date2)<DATE('%2') ")
                        .arg(isoDate(m_ui->dtp_tgl_aw->date()), isoDate(m_ui->dtp_tgl_akh->date().addDays(1)));
-    if (const QString& branch = m_services.session.session_cab_id; branch != QLatin1String("0"))
+    if (const frame::Branch& branch = m_services.session.session_cab_id; branch.isLimited())
         text += QStringLiteral("\nand process_id in (select distinct process_id from z_pay_process_d where emp_id_auto "
-                               "in (select distinct emp_id_auto from emp where cab_id_auto=%1)) ")
-                    .arg(branch);
+                               "in (select distinct emp_id_auto from emp where %1)) ")
+                    .arg(branch.condition());
     return text;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frame/base/branch.h"
 #include "run/lookups.h"
 #include "run/run.h"
 
@@ -41,7 +42,7 @@ struct Selections {
     std::optional<EmployeeChoice> employees;
     LoanTest loans = LoanTest::None;
     QDate loanMonth; ///< any day of the month
-    QString session_cab_id = QStringLiteral("0");
+    frame::Branch session_cab_id;
 };
 
 /// What the clerk is told after the lines are computed; neither case changes them.

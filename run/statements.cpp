@@ -55,14 +55,13 @@ QString numberList(std::span<const int> numbers) {
     return u'(' + (texts.isEmpty() ? u"NULL"_s : texts.join(u',')) + u')';
 }
 
-QString membersStatement(int grp_id, const QString& session_cab_id) {
-    const QString branch =
-        session_cab_id == u"0"_s ? QString() : u"and e.cab_id_auto=%1 "_s.arg(session_cab_id.toLongLong());
+QString membersStatement(int grp_id, const frame::Branch& session_cab_id) {
     // Employees whose PINs end in the same word follow by their key, else the server's mood would order them.
     return u"SELECT e.emp_id_auto, e.pin, e.nik, concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama "
            "FROM emp as e inner join z_pay_grp_emp as grp_emp on e.emp_id_auto=grp_emp.emp_id_auto where "
            "grp_emp.grp_id=%1 and e.emp_status=0 "_s.arg(grp_id) +
-           branch + u"order by SUBSTRING_INDEX(e.pin, '', 1), SUBSTRING_INDEX(e.pin, ' ', -1) , e.emp_id_auto"_s;
+           session_cab_id.furtherCondition(u"e.cab_id_auto"_s) +
+           u"order by SUBSTRING_INDEX(e.pin, '', 1), SUBSTRING_INDEX(e.pin, ' ', -1) , e.emp_id_auto"_s;
 }
 
 std::vector<Employee> readEmployees(db::Result rows) {

@@ -16,7 +16,7 @@ namespace run {
 [[nodiscard]] QString numberList(std::span<const int> numbers);
 
 /// Active employees of a group; in a session limited to a branch only those of the branch.
-[[nodiscard]] QString membersStatement(int grp_id, const QString& session_cab_id);
+[[nodiscard]] QString membersStatement(int grp_id, const frame::Branch& session_cab_id);
 [[nodiscard]] std::vector<Employee> readEmployees(db::Result rows);
 
 /// Rules of one component as one employee has them.

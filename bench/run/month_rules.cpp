@@ -48,6 +48,7 @@ void installMonthRules(db::Connection& main) {
 
 run::Selections monthOf(db::Connection& main, const run::Window& month) {
     run::Selections selections;
+    selections.session_cab_id = frame::Branch::all();
     selections.period = month;
     selections.groups = numbers(main, u"select grp_id from z_pay_grp order by grp_name"_s);
     for (const int com_id : numbers(main, u"select distinct com_id from z_pay_grp_com"_s))

@@ -4,9 +4,11 @@
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/sql_text.h"
 
+#include <QHash>
 #include <QPainter>
 #include <QTreeWidget>
 
+#include <map>
 #include <vector>
 
 namespace frame {
@@ -15,13 +17,13 @@ namespace {
 
 const QString firstDepartment = QStringLiteral("Nama Perusahaan");
 const QString stepMark = QStringLiteral("\\\\\\\\");
+constexpr int storedPath = Qt::UserRole;
 
 enum class Staff { None, Some };
 
 struct Department {
     QString path;
     Staff staff;
-    bool placed = false;
 };
 
 QPixmap mark(Staff staff, const QColor& colour) {
@@ -53,38 +55,48 @@ std::vector<Department> readDepartments(Session& session) {
     return departments;
 }
 
-/// The entry with the text among the siblings; their common parent is the one given.
-QTreeWidgetItem* childWithText(QTreeWidgetItem* parent, QStringView text) {
-    for (int i = 0; i < parent->childCount(); ++i)
-        if (parent->child(i)->text(0) == text)
-            return parent->child(i);
-    throw data::Fault(QStringLiteral("no department %1 to stand under").arg(text));
-}
+/// Puts departments below one another by their stored paths.
+class Placer final {
+public:
+    explicit Placer(QTreeWidgetItem* top) : m_top(top) {}
 
-void place(QTreeWidgetItem* top, Department& department, const QIcon& icon) {
-    QStringView rest = department.path;
-    QTreeWidgetItem* parent = top;
-    for (qsizetype mark = rest.indexOf(u'\\'); mark >= 0; mark = rest.indexOf(u'\\')) {
-        parent = childWithText(parent, rest.first(mark));
-        rest = rest.sliced(mark + 1);
+    /// To be called level by level.
+    void place(const Department& department) {
+        const qsizetype mark = department.path.lastIndexOf(u'\\');
+        QTreeWidgetItem* parent = mark < 0 ? m_top : m_entries.value(department.path.first(mark));
+        QTreeWidgetItem* entry = parent ? add(parent, department.path.sliced(mark + 1)) : addOrphan(department.path);
+        entry->setData(0, storedPath, department.path);
+        entry->setIcon(0, department.staff == Staff::Some ? m_staffed : m_empty);
+        if (!m_entries.contains(department.path))
+            m_entries.insert(department.path, entry);
     }
-    auto* entry = new QTreeWidgetItem(parent, {rest.toString()});
-    entry->setIcon(0, icon);
-    department.placed = true;
-}
+
+private:
+    static QTreeWidgetItem* add(QTreeWidgetItem* parent, const QString& text) {
+        return new QTreeWidgetItem(parent, {text});
+    }
+
+    /// Under the root with its whole path, where it can be seen and chosen.
+    QTreeWidgetItem* addOrphan(const QString& path) {
+        data::dropFault("the place of a department", [&] { throw data::Fault(path); });
+        return add(m_top->childCount() > 0 ? m_top->child(0) : m_top, path);
+    }
+
+    QTreeWidgetItem* m_top;
+    const QIcon m_empty = iconFor(Staff::None);
+    const QIcon m_staffed = iconFor(Staff::Some);
+    QHash<QString, QTreeWidgetItem*> m_entries; ///< by stored path
+};
 
 /// Level by level, so that rows may come in any order.
-void placeAll(QTreeWidgetItem* top, std::vector<Department> departments) {
-    const QIcon empty = iconFor(Staff::None);
-    const QIcon staffed = iconFor(Staff::Some);
-    std::size_t left = departments.size();
-    for (qsizetype level = 0; left > 0; ++level)
-        for (Department& department : departments) {
-            if (department.placed || department.path.count(u'\\') != level)
-                continue;
-            place(top, department, department.staff == Staff::Some ? staffed : empty);
-            --left;
-        }
+void placeAll(QTreeWidgetItem* top, const std::vector<Department>& departments) {
+    std::map<qsizetype, std::vector<const Department*>> levels;
+    for (const Department& department : departments)
+        levels[department.path.count(u'\\')].push_back(&department);
+    Placer placer(top);
+    for (const auto& [level, members] : levels)
+        for (const Department* department : members)
+            placer.place(*department);
 }
 
 void insertRoot(Session& session, QTreeWidgetItem* top) {
@@ -92,7 +104,7 @@ void insertRoot(Session& session, QTreeWidgetItem* top) {
         session.ADOCom_update.execute(QStringLiteral("insert into dept(dept_id_auto,dept_name) values(1,") +
                                       quotedSqlText(firstDepartment) + u')');
     });
-    new QTreeWidgetItem(top, {firstDepartment});
+    (new QTreeWidgetItem(top, {firstDepartment}))->setData(0, storedPath, firstDepartment);
 }
 
 } // namespace
@@ -111,10 +123,8 @@ void FillDeptTree(TreeBox& box, Session& session) {
 }
 
 QString deptPath(const TreeBox& box) {
-    QString path = box.text();
-    for (const QTreeWidgetItem* above = box.chosen() ? box.chosen()->parent() : nullptr; above; above = above->parent())
-        path.prepend(above->text(0) + stepMark);
-    return path;
+    const QString path = box.chosen() ? box.chosen()->data(0, storedPath).toString() : QString();
+    return QString(path).replace(u"\\"_qs, stepMark);
 }
 
 } // namespace frame

@@ -6,21 +6,9 @@
 #include "toolkit/ui/handler.h"
 #include "ui_filter_block.h"
 
-#include <stdexcept>
-
 namespace frame {
 
 namespace {
-
-const QString allBranches = QStringLiteral("0");
-
-qint32 branchOf(const QString& text) {
-    bool isNumber = false;
-    const qint32 number = text.toInt(&isNumber);
-    if (!isNumber)
-        throw std::invalid_argument(QStringLiteral("'%1' is not a valid integer value").arg(text).toStdString());
-    return number;
-}
 
 /// The key of the lookup's current record where the box shows one, else 0.
 qint32 keyOf(const LookupBox& box, const data::SqlQuery& query, QStringView field) {
@@ -103,13 +91,13 @@ void FilterBlock::closeLookups() {
 
 void FilterBlock::fillTree() {
     FillDeptTree(*m_ui->TCB_dept, *m_session);
-    m_filter_dept_path = m_ui->TCB_dept->text();
+    m_filter_dept_path = deptPath(*m_ui->TCB_dept);
 }
 
 void FilterBlock::applySessionBranch() {
-    if (m_session->session_cab_id == allBranches)
+    if (!m_session->session_cab_id.isLimited())
         return;
-    m_filter_cab_id = branchOf(m_session->session_cab_id);
+    m_filter_cab_id = m_session->session_cab_id.cab_id_auto();
     m_ui->lookup_cab->setKey(m_filter_cab_id);
     m_ui->lookup_cab->setEnabled(false);
 }
@@ -161,9 +149,7 @@ void FilterBlock::TCB_deptCloseUp() {
 }
 
 QString FilterBlock::baseCondition() const {
-    if (m_session->session_cab_id == allBranches)
-        return employeesAtWork();
-    return employeesAtWork() + QStringLiteral("and cab_id_auto=") + m_session->session_cab_id + u' ';
+    return employeesAtWork() + m_session->session_cab_id.furtherCondition();
 }
 
 QString FilterBlock::textCondition() const {
@@ -207,8 +193,12 @@ QString FilterBlock::conditionByKey() const {
 
 QString FilterBlock::conditionByName() const {
     QString condition = textCondition();
-    if (!m_ui->lookup_cab->text().isEmpty() && m_filter_cab_id != 0)
+    const Branch& limit = m_session->session_cab_id;
+    const bool within = !limit.isLimited() || m_filter_cab_id == limit.cab_id_auto();
+    if (!m_ui->lookup_cab->text().isEmpty() && m_filter_cab_id != 0 && within)
         condition += QStringLiteral(" and cab_name=") + quotedSqlText(m_ui->lookup_cab->text()) + u' ';
+    else // A limit without a name to search by still limits.
+        condition += limit.furtherCondition();
     condition += deptCondition();
     if (!m_ui->lookup_jbt->text().isEmpty() && m_filter_func_id != 0)
         condition += QStringLiteral(" and func_name=") + quotedSqlText(m_ui->lookup_jbt->text()) + u' ';

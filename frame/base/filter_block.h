@@ -34,10 +34,8 @@ public:
     // The steps of a first activation; screens call them in the order that theirs needs.
     void openLookups();
     void closeLookups();
-    /// Throws data::Fault on a department without its parent.
     void fillTree();
-    /// Presets and disables the branch where the session is limited to one. Throws std::invalid_argument where that
-    /// limit is no number.
+    /// Presets and disables the branch where the session is limited.
     void applySessionBranch();
 
     [[nodiscard]] int index() const;
@@ -53,7 +51,8 @@ public:
     [[nodiscard]] QString baseCondition() const;
     /// Of the chosen field alone, on keys; begins with " and".
     [[nodiscard]] QString conditionByKey() const;
-    /// Of the chosen text field, and of branch, department and function by their names whatever field is chosen.
+    /// Of the chosen text field, and of branch, department and function by their names whatever field is chosen. In a
+    /// limited session it never lets more through than the limit does.
     [[nodiscard]] QString conditionByName() const;
 
 Q_SIGNALS:

@@ -49,7 +49,7 @@ void Tfrm_browse_emp::btn_cariClick() {
     QString condition = m_ui->filter->baseCondition() + m_ui->filter->conditionByKey();
     if (browse_mode == BrowseMode::WithOpenLoan)
         condition += withOpenLoan;
-    sql_emp.setSql(m_baseSql + condition);
+    sql_emp.setSql(m_baseSql + condition + u" order by emp_id_auto"_qs);
     cds_emp.reopen();
     FitGridColumns(*m_ui->dbg_d);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frame/base/branch.h"
 #include "toolkit/data/sql_query.h"
 #include "toolkit/db/connection.h"
 
@@ -13,7 +14,7 @@ namespace frame {
 using Clock = std::function<QDateTime()>;
 [[nodiscard]] Clock systemClock();
 
-/// Gives the per-user value of a name, empty where there is none.
+/// Gives the per-user value of a name, empty where there is none. Throws where there may be one that cannot be read.
 using UserSettingReader = std::function<QString(const QString&)>;
 [[nodiscard]] UserSettingReader systemUserSetting();
 
@@ -52,8 +53,8 @@ struct Session {
     data::SqlQuery sql_cek_lang2{ADOConn_lang};
 
     Clock clock;
-    QString login_id;                             ///< who is logged in at the suite, as the launcher passed it
-    QString session_cab_id = QStringLiteral("0"); ///< "0", or the key of the branch that limits every list
+    QString login_id;      ///< who is logged in at the suite, as the launcher passed it
+    Branch session_cab_id; ///< what limits every list; nobody is seen before the frame has read it
 };
 
 } // namespace frame

@@ -45,7 +45,8 @@ void EmpCheckList::FillEmpCheckList(frame::Session& session) {
             left join dept as d on e.dept_id_auto=d.dept_id_auto
             left join func as f on e.func_id_auto=f.func_id_auto
         where e.emp_id_auto<>-1
-        order by (SUBSTRING_INDEX(e.pin, '', 1)), (SUBSTRING_INDEX(e.pin, ' ', -1)+0), e.first_name, e.last_name )"));
+        order by (SUBSTRING_INDEX(e.pin, '', 1)), (SUBSTRING_INDEX(e.pin, ' ', -1)+0), e.first_name, e.last_name,
+            e.emp_id_auto )"));
     for (; !sql.isEof(); sql.next()) {
         addUnticked(*clb_emp, QStringLiteral("[%1] %2").arg(sql.text(u"pin"), sql.text(u"nama")));
         addUnticked(*clb_emp_id, sql.text(u"emp_id_auto"));

@@ -5,6 +5,7 @@
 #include "frame/base/log.h"
 #include "frame/window/recap.h"
 #include "schema/settings_keys.h"
+#include "toolkit/data/fault.h"
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/ui/enter_key.h"
 #include "toolkit/ui/handler.h"
@@ -16,6 +17,8 @@
 #include <QEvent>
 
 #include <chrono>
+#include <exception>
+#include <stdexcept>
 #include <utility>
 
 /// The pictures lie in a static library, where nothing else makes the linker keep them.
@@ -32,6 +35,24 @@ const QString unlimitedUser = QStringLiteral("{3B9F17C4-A2D6-4E18-9C07-51EE40B7A
 
 /// The place in cmb_filter at which employees are ticked one by one; the list ends before it.
 constexpr int criteriaItem = 7;
+
+qint32 integerOf(const QString& text) {
+    bool isNumber = false;
+    const qint32 number = text.toInt(&isNumber);
+    if (!isNumber)
+        throw std::invalid_argument(QStringLiteral("'%1' is not a valid integer value").arg(text).toStdString());
+    return number;
+}
+
+template <typename Action>
+std::exception_ptr faultOf(Action&& action) {
+    try {
+        action();
+        return {};
+    } catch (const std::exception&) {
+        return std::current_exception();
+    }
+}
 
 } // namespace
 
@@ -111,6 +132,8 @@ bool Tfrm_menu::event(QEvent* event) {
 void Tfrm_menu::FormActivate() {
     if (!std::exchange(first_activate, false))
         return;
+    // Before anything else can fail; its own fault waits until the frame stands in the user's language.
+    const std::exception_ptr noBranch = faultOf([this] { read_session_cab(); });
     m_services.language.ApplyLanguage(*this);
     read_change_lang();
     // Laid out anew with the texts of the language.
@@ -120,7 +143,9 @@ void Tfrm_menu::FormActivate() {
     m_ui->filter->openLookups();
     read_periode();
     m_colours = recap::readColourSettings(m_session);
-    read_session_cab();
+    m_ui->filter->applySessionBranch();
+    if (noBranch)
+        std::rethrow_exception(noBranch);
     btn_cariClick();
     m_ui->dtp_tgl_aw->setFocus();
     qCInfo(frame::startLog) << "running";
@@ -166,10 +191,18 @@ void Tfrm_menu::read_periode() {
 
 void Tfrm_menu::read_session_cab() {
     const QString value = m_readUserSetting(QStringLiteral("Admin User ID"));
-    if (value == unlimitedUser || value.trimmed().isEmpty())
+    if (value == unlimitedUser || value.trimmed().isEmpty()) {
+        m_session.session_cab_id = frame::Branch::all();
         return;
-    m_session.session_cab_id = value.mid(value.indexOf(u':') + 1);
-    m_ui->filter->applySessionBranch();
+    }
+    const auto branch = frame::Branch::one(integerOf(value.mid(value.indexOf(u':') + 1)));
+    m_session.sql_temp.openSql(QStringLiteral("select * from cabang where ") + branch.condition());
+    const auto mustExist = [&] {
+        if (m_session.sql_temp.isEmpty())
+            throw data::Fault(branch.condition());
+    };
+    if (data::dropFault("the branch of this session", mustExist))
+        m_session.session_cab_id = branch;
 }
 
 void Tfrm_menu::btn_cariClick() {

@@ -29,7 +29,7 @@ left join z_pay_grp_emp as grp on d.emp_id_auto=grp.emp_id_auto
 where %1
 group by d.emp_id_auto
 ) as proses_d
-order by col_str, col_num )"_s.arg(filter);
+order by col_str, col_num, emp_id_auto )"_s.arg(filter);
 }
 
 // The inner select leaves the run out: a line that is the same in two runs counts once.

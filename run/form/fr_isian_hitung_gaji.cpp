@@ -23,13 +23,13 @@ const frame::MessageText lebih_200{formName, 2, u"Data pilih karyawan maksimal b
 const frame::MessageText tidak_ada_karyawan{formName, 3, u"Tidak ada karyawan yang dipilih"_qs};
 
 /// The groups that a session sees: all, or those with an employee of its branch.
-QString groupStatement(const QString& session_cab_id) {
-    if (session_cab_id == QLatin1String("0"))
+QString groupStatement(const frame::Branch& session_cab_id) {
+    if (!session_cab_id.isLimited())
         return QStringLiteral("select * , 0 as pilih from z_pay_grp order by grp_name");
     return QStringLiteral("SELECT *, 0 as pilih FROM (select * from z_pay_grp where grp_id in (select distinct grp_id "
                           "from z_pay_grp_emp where emp_id_auto in (select distinct emp_id_auto from emp where "
-                          "cab_id_auto=%1)) ) as xxx order by grp_name ")
-        .arg(session_cab_id);
+                          "%1)) ) as xxx order by grp_name ")
+        .arg(session_cab_id.condition());
 }
 
 const QString componentStructure =

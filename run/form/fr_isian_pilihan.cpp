@@ -161,7 +161,7 @@ void Tfrm_isian_hitung_gaji::isi_daftar_karyawan() {
     data::SqlQuery& sql = m_services.session.sql_cek;
     for (vir_tb.first(); !vir_tb.isEof(); vir_tb.next()) {
         const int grp_id = vir_tb.integer32(u"grp_id");
-        for (sql.openSql(run::membersStatement(grp_id, QStringLiteral("0"))); !sql.isEof(); sql.next()) {
+        for (sql.openSql(run::membersStatement(grp_id, frame::Branch::all())); !sql.isEof(); sql.next()) {
             auto* item = new QListWidgetItem(QStringLiteral("[%1] %2").arg(sql.text(u"pin"), sql.text(u"nama")));
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
             item->setCheckState(Qt::Unchecked);

@@ -67,12 +67,16 @@ TEST_F(Browser, FindsExactNumbersAndBeginningsOfNames) {
 }
 
 TEST_F(Browser, LimitedSessionSeesItsBranchOnly) {
-    company.services.session.session_cab_id = QStringLiteral("3");
+    company.services.session.session_cab_id = frame::Branch::one(3);
     open(BrowseMode::Everybody);
     EXPECT_EQ(pins(), "3,4,6");
     choose(4);
     EXPECT_EQ(search(), "3,4,6");
     EXPECT_EQ(search(1, "1"), "");
+    company.services.session.session_cab_id = frame::Branch();
+    open(BrowseMode::Everybody);
+    EXPECT_EQ(pins(), "");
+    EXPECT_EQ(search(1, "3"), "");
 }
 
 TEST_F(Browser, PaymentsGoOnlyToOpenLoans) {

@@ -30,11 +30,7 @@ protected:
         if (*rows)
             company.database.run(QStringLiteral("insert into dept(dept_id_auto, dept_name) values ") +
                                  QString::fromUtf8(rows));
-        try {
-            frame::FillDeptTree(box, company.services.session);
-        } catch (const std::exception& fault) {
-            return treeOf(box) + " / " + fault.what();
-        }
+        frame::FillDeptTree(box, company.services.session);
         return treeOf(box);
     }
 
@@ -48,10 +44,13 @@ TEST_F(DepartmentTree, StandsWhateverTheOrderOfTheRowsOfALevel) {
     EXPECT_EQ(filled(R"((1,'PT\\A'), (2,'Dua'), (3,'PT'), (4,'Dua\\A'))"), "Dua <|.A|PT|.A");
 }
 
-TEST_F(DepartmentTree, OrphanFailsAndLeavesTheLevelsAboveIt) {
-    EXPECT_EQ(filled(R"((1,'PT'), (2,'PT\\A'), (3,'PT\\a\\Y'), (4,'PT\\A\\Z'))"),
-              "PT|.A / no department a to stand under");
-    EXPECT_EQ(filled(R"((1,'PT'), (2,'Lain\\A'))"), "PT / no department Lain to stand under");
+TEST_F(DepartmentTree, OrphanStandsUnderTheRootAndIsSearchedByItsStoredPath) {
+    EXPECT_EQ(filled(R"((1,'PT'), (2,'PT\\A'), (3,'PT\\a\\Y'), (4,'PT\\A\\Z'), (5,'PT\\a\\Y\\X'))"),
+              R"(PT <|.A|..Z|.PT\a\Y|..X)");
+    box.choose(box.tree().findItems(QStringLiteral("X"), Qt::MatchExactly | Qt::MatchRecursive).first());
+    EXPECT_EQ(frame::deptPath(box), QStringLiteral(R"(PT\\\\a\\\\Y\\\\X)"));
+    EXPECT_EQ(filled(R"((2,'Lain\\B'), (1,'Lain\\A'))"), R"(Lain\A <|.Lain\B)");
+    EXPECT_EQ(frame::deptPath(box), QStringLiteral(R"(Lain\\\\A)"));
 }
 
 TEST_F(DepartmentTree, SuiteWithoutDepartmentsGetsItsRoot) {

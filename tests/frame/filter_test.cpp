@@ -115,7 +115,7 @@ TEST_F(Filter, OfTwoEntriesThatReadAlikeTheChosenOneStays) {
 }
 
 TEST_F(Filter, LimitedSessionKeepsItsBranchAfterEachChange) {
-    company.services.session.session_cab_id = QStringLiteral("3");
+    company.services.session.session_cab_id = frame::Branch::one(3);
     EXPECT_EQ(block.baseCondition(), QStringLiteral("where emp_id_auto<>-1 and emp_status=0 and cab_id_auto=3 "));
     for (const int index : {FilterBlock::Semua, FilterBlock::Cabang, FilterBlock::Jabatan}) {
         block.select(index);
@@ -125,8 +125,14 @@ TEST_F(Filter, LimitedSessionKeepsItsBranchAfterEachChange) {
     block.select(FilterBlock::Cabang);
     EXPECT_EQ(block.conditionByKey(), QStringLiteral(" and cab_id_auto=3 "));
     EXPECT_EQ(block.conditionByName(), QStringLiteral(" and cab_name='Cabang D''Or'  and dept_name like 'PT%' "));
-    company.services.session.session_cab_id = QStringLiteral("tiga");
-    EXPECT_THROW(block.applySessionBranch(), std::invalid_argument);
+    // Neither a branch without a name nor one that is not known yet opens the search by name.
+    for (const auto& [limit, condition] : {std::pair(frame::Branch::one(9), "and cab_id_auto=9 "),
+                                           std::pair(frame::Branch(), "and cab_id_auto=NULL ")}) {
+        company.services.session.session_cab_id = limit;
+        EXPECT_EQ(byName({FilterBlock::Cabang, "Pusat"}), condition + std::string(" and dept_name like 'PT%' "));
+        EXPECT_EQ(block.baseCondition().toStdString(),
+                  std::string("where emp_id_auto<>-1 and emp_status=0 ") + condition);
+    }
 }
 
 TEST_F(Filter, ScreensMayAddFieldsWithTheirOwnControl) {

@@ -19,6 +19,7 @@ SmallCompany::SmallCompany() {
             (5, '5', 'N5', 'Ani', 'Keluar', 1, 2, 1, 1),
             (6, '6', 'N6', '%', 'Persen', 3, 3, 2, 0)
     )"));
+    services.session.session_cab_id = frame::Branch::all();
     services.session.ADOConn.configure(database.mainSettings());
     services.session.ADOConn_lang.configure(database.appSettings());
     database.runApp(QStringLiteral("insert into global_setting values('default_lang', 'indonesia')"));

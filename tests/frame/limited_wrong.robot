@@ -1,5 +1,5 @@
-# A limit that is no number: the search does not run, neither now nor later.
-#: options --user hrd --admin-id x:
+# A limit that is no number: the first search does not run, and every list stays empty.
+#: options --user hrd --now "2026-11-05 08:15" --admin-id x:
 #: main insert into cabang values(1, 'Pusat'), (3, 'Cabang D''Or');
 #:+ insert into func values(1, 'Staf'), (2, 'Kepala');
 #:+ insert into dept values(4, 'PT\\Produksi\\Las', 'Las'), (2, 'PT\\Produksi', 'Produksi'), (1, 'PT', 'PT'), (3, 'PT\\Umum', 'Umum');
@@ -7,10 +7,23 @@
 #:+   (-1, '0', '0', 'Tidak', 'Ada', 1, 1, 1, 0), (1, '1', 'N1', 'Ani', 'Putri', 1, 1, 1, 0),
 #:+   (2, 'A 2', 'N2', 'Anisa', null, 1, 2, 2, 0), (3, '3', 'N3', 'Ma''ruf', 'Ali', 3, 4, 1, 0),
 #:+   (4, '4', 'N4', 'Budi', 'Ani', 3, 3, 2, 0), (5, '5', 'N5', 'Ani', 'Keluar', 1, 2, 1, 1)
+#: main insert into z_pay_grp(grp_id, kode_grp, grp_name) values(1, 'HRN', 'Harian');
+#:+ insert into z_pay_grp_emp(grp_id, emp_id_auto) values(1, 1), (1, 3);
+#:+ insert into z_pay_process_m(process_id, process_name, date1, date2) values(1, 'Kami', '2026-10-10', '2026-10-20');
+#:+ insert into z_pay_process_d(process_id, no_urut, emp_id_auto, tot_payroll) values(1, 1, 3, 20)
 #: app insert into global_setting values('default_lang', 'indonesia'), ('tanggal_awal_proses', '2026-10-01'), ('tanggal_akhir_proses', '2026-10-31')
 start
 state dbg_rekap
 click btn_userlog
 close frm_userlog
-state dbg_rekap
 choose cmb_filter Cabang
+state lookup_cab
+click btn_cari
+state dbg_rekap
+click Image2
+click btn_cari
+state dbg_m
+click btn_tambah
+state dbg_grp
+click chb_emp
+items clb_emp

@@ -33,7 +33,12 @@ TEST(ReadUserSetting, GivesTheValueExactlyOrAnEmptyText) {
         {"Admin User ID={3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}\r\n", "{3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}"},
         {"\xEF\xBB\xBF"
          "Admin User ID= a = \"b\", %41\\n;#\t \r\n",
-         " a = \"b\", %41\\n;#\t "},
+         "a = \"b\", %41\\n;#"},
+        {"\tadmin user ID = x:3 \r\n", "x:3"},
+        {"ADMIN USER ID=\"x:3\"", "x:3"},
+        {"Admin User ID = ' 3\"'", " 3\""},
+        {"Admin User ID=\"", "\""},
+        {"Admin User ID = \"\"\n", ""},
         {"Admin User ID=cabang é€😀\n", "cabang é€😀"},
         {"[General]\nOther=1\nAdmin User ID Old=2\n\nAdmin User ID=4\nAdmin User ID=5\n", "4"},
         {"Admin User ID\n", ""},
@@ -45,6 +50,15 @@ TEST(ReadUserSetting, GivesTheValueExactlyOrAnEmptyText) {
         writeConf(folder.path(), content);
         EXPECT_EQ(ReadUserSetting(adminUserId, folder.path()).toStdString(), value) << content.toStdString();
     }
+}
+
+TEST(ReadUserSetting, IsRefusedByAFileThatIsThereAndCannotBeRead) {
+    const QTemporaryDir folder;
+    const QString file = folder.filePath(QStringLiteral("user.conf"));
+    EXPECT_TRUE(QFile::link(QStringLiteral("/nowhere/at all"), file));
+    EXPECT_THROW((void)ReadUserSetting(adminUserId, folder.path()), std::runtime_error) << "a link that leads nowhere";
+    EXPECT_TRUE(QFile::remove(file) && QDir().mkdir(file));
+    EXPECT_THROW((void)ReadUserSetting(adminUserId, folder.path()), std::runtime_error) << "no file";
 }
 
 TEST(ReadUserSetting, LooksIntoTheUsersConfigurationFolderAndLogsAFailureWhereAskedTo) {

@@ -89,6 +89,7 @@ TEST_F(Companies, YieldInBulkWhatOneStatementPerLookupYieldsToTheLastDigit) {
 
 TEST_F(Companies, TakeAsManyStatementsForThousandEmployeesAsForTen) {
     run::Selections selections;
+    selections.session_cab_id = frame::Branch::all();
     selections.period = {QDate(2024, 2, 1), QDate(2024, 2, 28)};
     selections.groups = {1, 2};
     selections.components = {{.com_id = 1, .no_urut = 1}, {.com_id = 2, .no_urut = 2}};

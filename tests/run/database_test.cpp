@@ -41,6 +41,7 @@ protected:
         m_database.run(QString::fromUtf8(company));
         m_main.configure(m_database.mainSettings());
         m_app.configure(m_database.appSettings());
+        m_selections.session_cab_id = frame::Branch::all();
         m_selections.period = {QDate(2024, 1, 1), QDate(2024, 1, 3)};
     }
 
@@ -80,8 +81,10 @@ private:
 TEST_F(Database, MembersComeByTheLastWordOfTheirPinAsTextWithoutTheResigned) {
     choose({1}, {});
     EXPECT_EQ(lines(), "10  Budi  |\nA 7 N1 Ayu Sari |\nB 7 N3  Citra |");
-    m_selections.session_cab_id = QStringLiteral("1");
+    m_selections.session_cab_id = frame::Branch::one(1);
     EXPECT_EQ(lines(), "A 7 N1 Ayu Sari |\nB 7 N3  Citra |");
+    m_selections.session_cab_id = frame::Branch();
+    EXPECT_EQ(lines(), "");
 }
 
 TEST_F(Database, RulesComeInTheirOrderForMembersOfAnExistingGroup) {

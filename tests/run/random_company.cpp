@@ -132,7 +132,7 @@ run::Selections RandomCompany::selections() {
         chosen.employees = ticks();
     chosen.loans = run::LoanTest(below(3));
     chosen.loanMonth = QDate(2024, once(3) ? 3 : 2, 28);
-    chosen.session_cab_id = draw(u"0|0|0|1"_s);
+    chosen.session_cab_id = once(4) ? frame::Branch::one(1) : frame::Branch::all();
     return chosen;
 }
 
