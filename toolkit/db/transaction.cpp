@@ -1,5 +1,7 @@
 #include "toolkit/db/transaction.h"
 
+#include <stdexcept>
+
 namespace db {
 
 Transaction::Transaction(Connection& connection) : m_connection(connection) {

@@ -3,15 +3,14 @@
 #include "toolkit/db/connection.h"
 
 #include <functional>
-#include <stdexcept>
 
 namespace db {
 
 /// The connection was lost while the server was committing: what the transaction did is stored whole or not at all,
 /// and only a look at the tables tells which.
-class CommitUnknown final : public std::runtime_error {
+class CommitUnknown final : public fault::Fault {
 public:
-    using std::runtime_error::runtime_error;
+    using fault::Fault::Fault;
 };
 
 /// A transaction of a connection for as long as it lives; what commit() has not made lasting is rolled back. A session
