@@ -12,7 +12,6 @@
 #include "toolkit/ui/wait_cursor.h"
 #include "ui_fr_menu.h"
 
-#include <QApplication>
 #include <QCloseEvent>
 #include <QEvent>
 
@@ -229,11 +228,7 @@ void Tfrm_menu::btn_userlogClick() {
 void Tfrm_menu::Timer1Timer() {
     if (!m_frm_warning)
         m_frm_warning = std::make_unique<Tfrm_warning>(m_services.language);
-    // Some window systems make every new window the active one; the user's stays it.
-    QWidget* active = QApplication::activeWindow();
     m_frm_warning->show();
-    if (active)
-        active->activateWindow();
 }
 
 void Tfrm_menu::setWorkspace(Icon icon, WorkspaceFactory factory) {

@@ -2,9 +2,11 @@
 
 #include "ui_fr_warning.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QGraphicsOpacityEffect>
 #include <QMouseEvent>
+#include <QScreen>
 #include <QWindow>
 
 #include <chrono>
@@ -19,8 +21,8 @@ constexpr int drawingHeight = 520; // in the drawing's own units, like the strip
 } // namespace
 
 Tfrm_warning::Tfrm_warning(frame::Language& language) :
-    QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint), m_ui(std::make_unique<Ui::frm_warning>()),
-    m_fade(new QGraphicsOpacityEffect(this)) {
+    QWidget(nullptr, Qt::Window | Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+    m_ui(std::make_unique<Ui::frm_warning>()), m_fade(new QGraphicsOpacityEffect(this)) {
     m_ui->setupUi(this);
     setAttribute(Qt::WA_ShowWithoutActivating);
     setAttribute(Qt::WA_TranslucentBackground);
@@ -49,21 +51,42 @@ void Tfrm_warning::fitToDrawing() {
     setShare(m_ui->lbl_catatan, 68);
 }
 
+/// Over the recap's last columns: search, icons and the first rows stay in sight.
+void Tfrm_warning::moveToCorner(const QScreen& screen) {
+    QRect corner({}, size());
+    corner.moveBottomRight(screen.availableGeometry().bottomRight());
+    move(corner.topLeft());
+}
+
 void Tfrm_warning::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (event->spontaneous())
         return;
+    m_active = QApplication::activeWindow();
+    moveToCorner(m_active ? *m_active->screen() : *screen());
     m_state = State::FadingIn;
     m_opacity = 0;
     m_fade->setOpacity(0);
     fadeTimer.start();
 }
 
+// Some window systems make every new window the active one, a moment after it is shown; the user's stays it. Asking for
+// the focus without need would take it from a menu or a screen that has just been opened.
+bool Tfrm_warning::event(QEvent* event) {
+    if (event->type() == QEvent::WindowActivate && m_active) {
+        QWidget* modal = QApplication::activeModalWidget();
+        (modal ? modal : m_active.data())->activateWindow();
+    }
+    return QWidget::event(event);
+}
+
 void Tfrm_warning::fadeTimerTimer() {
     m_opacity = m_state == State::FadingIn ? std::min(m_opacity + fadeStep, opaque) : std::max(m_opacity - fadeStep, 0);
     m_fade->setOpacity(double(m_opacity) / opaque);
-    if (m_state == State::FadingIn && m_opacity == opaque)
+    if (m_state == State::FadingIn && m_opacity == opaque) {
         fadeTimer.stop();
+        m_active = nullptr;
+    }
     if (m_state == State::FadingOut && m_opacity == 0) {
         fadeTimer.stop();
         close();
@@ -82,18 +105,21 @@ void Tfrm_warning::closeEvent(QCloseEvent* event) {
 }
 
 bool Tfrm_warning::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress || event->type() == QEvent::MouseMove)
-        drag(*static_cast<QMouseEvent*>(event));
+    if (event->type() == QEvent::MouseButtonPress)
+        grip(*static_cast<QMouseEvent*>(event));
+    else if (event->type() == QEvent::MouseMove && m_grip)
+        move(static_cast<QMouseEvent*>(event)->globalPosition().toPoint() - *m_grip);
+    else if (event->type() == QEvent::MouseButtonRelease)
+        m_grip.reset();
     return QWidget::eventFilter(watched, event);
 }
 
-void Tfrm_warning::drag(const QMouseEvent& event) {
-    if (!(event.buttons() & Qt::LeftButton))
+void Tfrm_warning::grip(const QMouseEvent& event) {
+    if (event.button() != Qt::LeftButton)
         return;
-    const QPoint at = event.globalPosition().toPoint();
-    if (event.type() == QEvent::MouseMove)
-        move(at - m_grip);
-    // Some window systems let no program place its windows and move them by themselves.
-    else if (!windowHandle()->startSystemMove())
-        m_grip = at - pos();
+    // Some window systems let no program place its windows and move them by themselves; the pointer's way is then
+    // theirs.
+    m_grip.reset();
+    if (!windowHandle()->startSystemMove())
+        m_grip = event.globalPosition().toPoint() - pos();
 }

@@ -3,10 +3,12 @@
 #include "frame/base/services.h"
 
 #include <QPoint>
+#include <QPointer>
 #include <QTimer>
 #include <QWidget>
 
 #include <memory>
+#include <optional>
 
 class QGraphicsOpacityEffect;
 
@@ -14,8 +16,8 @@ namespace Ui {
 class frm_warning;
 }
 
-/// The quick guide: a picture of the program's road, in a window of its own that fades in and out. It takes no focus
-/// from the frame.
+/// The quick guide: a picture of the program's road, in a window of its own that fades in and out. It lies above all
+/// others and takes the focus from none.
 class Tfrm_warning final : public QWidget {
     Q_OBJECT
 
@@ -24,6 +26,7 @@ public:
     ~Tfrm_warning() override;
 
 protected:
+    bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     /// Dragging Image2 moves the window.
@@ -34,13 +37,15 @@ private:
 
     /// The texts stand in the strips of the drawing at every font size.
     void fitToDrawing();
+    void moveToCorner(const QScreen& screen);
     void fadeTimerTimer();
-    void drag(const QMouseEvent& event);
+    void grip(const QMouseEvent& event);
 
     std::unique_ptr<Ui::frm_warning> m_ui;
     QTimer fadeTimer;
     QGraphicsOpacityEffect* m_fade; ///< not the window's own opacity, which some window systems do not know
     State m_state = State::FadingIn;
-    int m_opacity = 0; ///< 0 to 255
-    QPoint m_grip;     ///< where the picture is held, from the window's corner
+    int m_opacity = 0;            ///< 0 to 255
+    QPointer<QWidget> m_active;   ///< the user's window while this one appears
+    std::optional<QPoint> m_grip; ///< where the picture is held, from the window's corner, while it is dragged
 };

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 
 namespace {
@@ -19,6 +20,16 @@ window::ProgramEnvironment environmentOf(int argc, char** argv) {
     return environment;
 }
 
+/// Without a display Qt ends by an abort, and while it starts it has no other fatal fault.
+void endWithoutDisplay(QtMsgType type, const QMessageLogContext&, const QString& text) {
+    if (type != QtFatalMsg) {
+        std::fprintf(stderr, "%s\n", qPrintable(text));
+        return;
+    }
+    std::fputs("There is no display to show the program on.\n", stderr);
+    std::_Exit(EXIT_FAILURE);
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
@@ -29,7 +40,9 @@ int main(int argc, char** argv) {
             return 0;
         // The arguments are the launcher's texts; none of them is an option of the toolkit.
         int ownName = 1;
+        const QtMessageHandler usual = qInstallMessageHandler(endWithoutDisplay);
         QApplication application(ownName, argv);
+        qInstallMessageHandler(usual);
         applyTheme(application);
         const int code = program.openFrame() ? QApplication::exec() : 0;
         program.closeAll();

@@ -1,10 +1,15 @@
 #include "tests/robot/robot.h"
 
 #include <QApplication>
+#include <QtTest/qtestsystem.h>
 
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
+
+namespace {
+constexpr int patience = 5000; // milliseconds
+} // namespace
 
 Robot::Robot(window::ProgramEnvironment environment, std::istream& input) :
     m_environment(std::move(environment)), m_script(input) {
@@ -38,7 +43,11 @@ void Robot::settle() {
 void Robot::startProgram() {
     m_program.reset();
     m_program = std::make_unique<window::Program>(m_environment);
-    print(m_program->start() ? QStringLiteral("started") : QStringLiteral("refused"));
+    const bool started = m_program->start();
+    // A window manager takes its time; a person waits for the frame too.
+    if (started)
+        (void)QTest::qWaitFor([] { return QApplication::activeWindow() != nullptr; }, patience);
+    print(started ? QStringLiteral("started") : QStringLiteral("refused"));
 }
 
 /// What holds everything behind it: a menu or list that is dropped down, else a modal screen.
