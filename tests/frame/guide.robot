@@ -12,5 +12,5 @@ get frm_warning.lbl_langkah_4
 state frm_warning.Image1
 click frm_warning.Image1
 state frm_warning.Image1
-wait 1000
+wait 4000
 state frm_warning.Image1
