@@ -21,6 +21,8 @@ const frame::MessageText lebih_dari_satu{formName, 1, u"Data yang dipilih lebih 
 const frame::MessageText yakin_hapus{formName, 2,
                                      u"Apakah anda yakin akan menghapus proses perhitungan gaji yang dipilih?"_qs};
 
+const frame::MessageText sudah_dihapus{formName, 4, u"Perhitungan gaji yang dipilih sudah dihapus di tempat lain."_qs};
+
 const QString selectRuns = QStringLiteral("SELECT *   , 0 as pilih FROM z_pay_process_m");
 
 const QString selectEmployees = QStringLiteral(
@@ -222,8 +224,15 @@ void Tfrm_hitung_gaji::btn_tambahClick() {
 }
 
 void Tfrm_hitung_gaji::btn_editClick() {
-    if (frame::goToOnlyTicked(cds_m, m_services.messages, this, lebih_dari_satu))
-        open_form({.mode = RunFormTask::Edit, .process_id = cds_m.integer32(u"process_id")});
+    if (!frame::goToOnlyTicked(cds_m, m_services.messages, this, lebih_dari_satu))
+        return;
+    const int process_id = cds_m.integer32(u"process_id");
+    data::SqlQuery& sql = m_services.session.sql_cek;
+    sql.openSql(QStringLiteral("select process_id from z_pay_process_m where process_id=%1 ").arg(process_id));
+    if (sql.isEmpty())
+        m_services.messages.inform(this, sudah_dihapus);
+    else
+        open_form({.mode = RunFormTask::Edit, .process_id = process_id});
 }
 
 void Tfrm_hitung_gaji::btn_hapusClick() {

@@ -17,7 +17,7 @@ public:
     BulkReader(db::Connection& main, db::Connection& app, const Selections& selections,
                std::function<void(int reads)> done = {});
 
-    /// To be called once.
+    /// To be called once. Throws db::Fault where the connection is lost or a statement cancelled.
     [[nodiscard]] LookupTables read();
 
 private:

@@ -17,7 +17,8 @@ struct Progress {
 };
 
 /// Replaces the lines of the run by a computation of the selections, reading in bulk. Rounding and totals are not part
-/// of it. Never throws for a failed read or an impossible amount.
+/// of it. Throws db::Fault where the connection is lost or a statement cancelled; the run is then as it was. Never
+/// throws for a read that fails otherwise or for an impossible amount.
 [[nodiscard]] Notice computeRun(Run& run, const Selections& selections, db::Connection& main, db::Connection& app,
                                 const std::function<void(const Progress&)>& progress = {});
 

@@ -25,17 +25,6 @@ CountSettings readCountSettings(db::Connection& main) {
     return settings;
 }
 
-bool sessionIsLost(const std::exception_ptr& fault) {
-    try {
-        std::rethrow_exception(fault);
-    } catch (const db::Fault& refused) {
-        // The client library's own numbers: no statement will fare better.
-        return refused.code() >= 2000 && refused.code() < 3000;
-    } catch (...) {
-        return false;
-    }
-}
-
 /// The first part that has a row for an employee and day counts; 0 where none has.
 Reading<FigureValues> joined(const std::vector<const Reading<FigureValues>*>& parts) {
     return readingOf([&] {
@@ -115,9 +104,8 @@ void FigureReader::readTogether(const std::vector<Part*>& parts, Grain grain) {
     if (!columns.fault()) {
         for (std::size_t i = 0; i < parts.size(); ++i)
             parts[i]->values = Reading(columns.value()[i]);
-    } else if (parts.size() == 1 || sessionIsLost(columns.fault())) {
-        for (Part* part : parts)
-            part->values = Reading<FigureValues>(columns.fault());
+    } else if (parts.size() == 1) {
+        parts.front()->values = Reading<FigureValues>(columns.fault());
     } else {
         for (Part* part : parts)
             readTogether({part}, grain);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "run/lookups.h"
+#include "toolkit/db/fault.h"
 
 #include <QHash>
 #include <QSet>
@@ -33,12 +34,17 @@ private:
     std::exception_ptr m_fault;
 };
 
-/// Runs the read and keeps what comes of it, so that a failure is met where the value is needed.
+/// Runs the read and keeps what comes of it, so that a failure is met where the value is needed. A lost connection and
+/// a cancelled statement are no matter of one value; they are thrown at once.
 template <typename Read>
 [[nodiscard]] auto readingOf(Read&& read) -> Reading<decltype(read())> {
     using Outcome = Reading<decltype(read())>;
     try {
         return Outcome(read());
+    } catch (const db::Fault& fault) {
+        if (fault.stopsWork())
+            throw;
+        return Outcome(std::current_exception());
     } catch (const std::exception&) {
         return Outcome(std::current_exception());
     }

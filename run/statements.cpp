@@ -1,5 +1,6 @@
 #include "run/statements.h"
 
+#include "run/memory_lookups.h"
 #include "schema/settings_keys.h"
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/bool_text.h"
@@ -19,11 +20,12 @@ constexpr auto componentJoin = "left join z_pay_com as com on grp_com.com_id=com
 constexpr auto ruleOrder = "order by com.type, com.no_urut, grp_com.no_urut_ref "_L1;
 
 void readFlag(db::Connection& app, QLatin1String param_id, bool& flag) {
-    fault::dropFault("a setting of full attendance", [&] {
-        db::Result row = app.query(u"Select * from global_setting where param_id='"_s + param_id + u"' "_s);
-        row.next();
-        flag = boolFromText(row.text(u"param_value"_s));
+    const auto value = readingOf([&] {
+        db::Result found = app.query(u"Select * from global_setting where param_id='"_s + param_id + u"' "_s);
+        found.next();
+        return found.text(u"param_value"_s);
     });
+    fault::dropFault("a setting of full attendance", [&] { flag = boolFromText(value.value()); });
 }
 
 QString day(const QDate& date) {

@@ -39,7 +39,8 @@ namespace run {
 [[nodiscard]] QString allLoansStatement(const Selections& selections);
 [[nodiscard]] LoanPayment readLoanPayment(const db::Result& row);
 
-/// The settings of full attendance, each read by itself; one that is missing or no number keeps its default.
+/// The settings of full attendance, each read by itself; one that is missing or no number keeps its default. Throws
+/// db::Fault where the connection is lost or a statement cancelled.
 [[nodiscard]] Hadir100 readHadir100(db::Connection& app);
 
 } // namespace run

@@ -1,5 +1,6 @@
 #include "frame/base/messages.h"
 
+#include "toolkit/data/drop_fault.h"
 #include "toolkit/text/sql_text.h"
 
 #include <utility>
@@ -44,11 +45,25 @@ QString Messages::LookupMessage(const QString& messageId, const QString& text, c
     return stored.isEmpty() ? text : stored;
 }
 
-int Messages::show(MessageDialog& dialog, QWidget* screen, const MessageText& message) {
-    const Message shown{message.form(), message.id(), LookupMessage(message.id(), message.text(), message.form())};
+QString Messages::textOf(const MessageText& message) {
+    try {
+        return LookupMessage(message.id(), message.text(), message.form());
+    } catch (const db::Fault& fault) {
+        if (!fault.isConnectionLoss())
+            throw;
+        // What is to be said about a lost connection would be lost with it.
+        data::reportDroppedFault("the stored text of a message", fault);
+        return message.text();
+    }
+}
+
+int Messages::show(MessageDialog& dialog, QWidget* screen, const MessageText& message, const QString& detail) {
+    const Message stored{message.form(), message.id(), textOf(message)};
+    Message shown = stored;
+    shown.text.replace(QStringLiteral("%1"), detail);
     const int result = dialog.execute(screen, shown);
     if (result == MessageLanguage)
-        EditMessage(shown, screen);
+        EditMessage(stored, screen);
     return result;
 }
 
@@ -60,8 +75,8 @@ void Messages::inform(QWidget* screen, const MessageText& message) {
     show(Msd_Informasi, screen, message);
 }
 
-bool Messages::confirm(QWidget* screen, const MessageText& message) {
-    return show(Msd_Konfirmasi, screen, message) == MessageOk;
+bool Messages::confirm(QWidget* screen, const MessageText& message, const QString& detail) {
+    return show(Msd_Konfirmasi, screen, message, detail) == MessageOk;
 }
 
 void Messages::EditMessage(const Message& message, QWidget* screen) {

@@ -49,10 +49,12 @@ public:
     void error(QWidget* screen, const MessageText& message);
     void inform(QWidget* screen, const MessageText& message);
     /// True for OK. Language counts as no.
-    [[nodiscard]] bool confirm(QWidget* screen, const MessageText& message);
+    /// The detail stands where the text has "%1".
+    [[nodiscard]] bool confirm(QWidget* screen, const MessageText& message, const QString& detail = {});
 
 private:
-    int show(MessageDialog& dialog, QWidget* screen, const MessageText& message);
+    [[nodiscard]] QString textOf(const MessageText& message);
+    int show(MessageDialog& dialog, QWidget* screen, const MessageText& message, const QString& detail = {});
     void storeText(const Message& message);
 
     Session& m_session;

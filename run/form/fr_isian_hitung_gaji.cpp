@@ -21,6 +21,14 @@ const QString formName = QStringLiteral("frm_isian_hitung_gaji");
 const frame::MessageText nama_kosong{formName, 1, u"Nama perhitungan gaji harus diisi."_qs};
 const frame::MessageText lebih_200{formName, 2, u"Data pilih karyawan maksimal berisi 200 karyawan."_qs};
 const frame::MessageText tidak_ada_karyawan{formName, 3, u"Tidak ada karyawan yang dipilih"_qs};
+const frame::MessageText sudah_dihapus{
+    formName, 4, u"Perhitungan gaji ini sudah dihapus di tempat lain. Tidak ada yang disimpan."_qs};
+const frame::MessageText diubah{
+    formName, 5, u"Perhitungan gaji ini sudah diubah oleh %1 sejak dibuka. Ganti perubahan itu dengan isian ini?"_qs};
+const frame::MessageText tidak_diketahui{
+    formName, 6,
+    u"Hubungan dengan server terputus saat menyimpan. Belum diketahui apakah "
+    "perhitungan gaji ini tersimpan; simpan sekali lagi bila server sudah menjawab."_qs};
 
 /// The groups that a session sees: all, or those with an employee of its branch.
 QString groupStatement(const frame::Branch& session_cab_id) {
@@ -34,6 +42,11 @@ QString groupStatement(const frame::Branch& session_cab_id) {
 
 const QString componentStructure =
     QStringLiteral("select com_id, com_kode, com_name, no_urut, 0 as pilih from z_pay_com where com_id=0");
+
+/// Both are empty where the other station's program writes none.
+QString whoAndWhen(const run::StoredRun& change) {
+    return change.lastupdate_user + change.lastupdate_date.toString(QStringLiteral(" (dd/MM/yyyy HH:mm)"));
+}
 
 data::Field integerField(const QString& name) {
     return {.name = name, .type = data::FieldType::Integer};
@@ -152,8 +165,7 @@ void Tfrm_isian_hitung_gaji::open_run() {
     // The caption of the language with the mode behind it.
     setWindowTitle(windowTitle() + u' ' + m_modeCaptions[m_task.mode].text());
     if (m_task.mode == RunFormTask::New) {
-        m_copy.open(0);
-        m_copy.appendAll();
+        m_copy.openNew();
         siapkan_baru();
         return;
     }
@@ -216,11 +228,12 @@ void Tfrm_isian_hitung_gaji::segarkan_rincian() {
 
 run::Notice Tfrm_isian_hitung_gaji::compute() {
     BusyScreen busy(m_ui->pnl_proses, m_ui->pgb_proses);
-    m_copy.deleteAllLines();
     frame::Session& session = m_services.session;
     run::Run run;
     const auto show = [&busy](const run::Progress& progress) { busy.showProgress(progress.done, progress.of); };
     const run::Notice notice = run::computeRun(run, selections(), session.ADOConn, session.ADOConn_lang, show);
+    // Not before all is read: a computation that stops leaves the lines as they were.
+    m_copy.deleteAllLines();
     m_copy.appendRun(run);
     return notice;
 }
@@ -266,22 +279,48 @@ bool Tfrm_isian_hitung_gaji::cek_nama_proses() {
 }
 
 void Tfrm_isian_hitung_gaji::btn_simpanClick() {
-    m_copy.cds_m.settle();
-    if (cek_nama_proses() && m_task.mode != RunFormTask::View)
-        fault::dropFault("saving a run", [this] { simpan(); });
+    bool isStored = false;
+    runHandler(this, [&] {
+        m_copy.cds_m.settle();
+        isStored = cek_nama_proses() && m_task.mode != RunFormTask::View && simpan();
+    });
+    if (isStored)
+        selesai();
     m_task.refresh();
 }
 
-void Tfrm_isian_hitung_gaji::simpan() {
-    {
-        const BusyScreen busy(m_ui->pnl_proses, m_ui->pgb_proses);
-        btn_hitungClick();
-        m_copy.applyAll();
+bool Tfrm_isian_hitung_gaji::simpan() {
+    for (;;) {
+        switch (write_run()) {
+        case run::Saved::Stored:
+            return true;
+        case run::Saved::Gone:
+            m_services.messages.error(this, sudah_dihapus);
+            return false;
+        case run::Saved::NotKnown:
+            m_services.messages.error(this, tidak_diketahui);
+            return false;
+        case run::Saved::ChangedElsewhere:
+            if (!m_services.messages.confirm(this, diubah, whoAndWhen(m_copy.foreignChange())))
+                return false;
+            m_copy.replaceForeignChange();
+        }
     }
+}
+
+run::Saved Tfrm_isian_hitung_gaji::write_run() {
+    const BusyScreen busy(m_ui->pnl_proses, m_ui->pgb_proses);
+    btn_hitungClick();
+    return m_copy.save();
+}
+
+void Tfrm_isian_hitung_gaji::selesai() {
     save_log(m_task.mode == RunFormTask::New ? QStringLiteral("Insert") : QStringLiteral("Update"));
-    m_task.refresh();
-    if (m_task.mode == RunFormTask::New && m_task.goToLast)
-        m_task.goToLast();
+    fault::dropFault("the list of runs after a save", [this] {
+        m_task.refresh();
+        if (m_task.mode == RunFormTask::New && m_task.goToLast)
+            m_task.goToLast();
+    });
     close();
 }
 

@@ -78,7 +78,10 @@ private:
     [[nodiscard]] run::EmployeeChoice chosen_employees() const;
     [[nodiscard]] run::Notice compute();
     [[nodiscard]] bool cek_nama_proses();
-    void simpan();
+    /// True where the run is stored; else the user was told why not.
+    [[nodiscard]] bool simpan();
+    [[nodiscard]] run::Saved write_run();
+    void selesai();
     void save_log(const QString& action);
     void pnl_empPop();
     void pnl_empExit(QWidget* focus);

@@ -2,6 +2,7 @@
 
 #include "run/form/form_run_view.h"
 #include "toolkit/fault/drop_fault.h"
+#include "toolkit/db/transaction.h"
 
 #include <cmath>
 #include <utility>
@@ -127,6 +128,15 @@ void WorkingCopy::segarkan_rincian() {
 }
 
 void WorkingCopy::open(int process_id) {
+    m_isNew = false;
+    m_process_id = process_id;
+    // Before the rows: a change between the two then counts as one made since.
+    if (const std::optional<StoredRun> stored = readStoredRun(m_main, process_id))
+        m_loaded = stored->content;
+    load(process_id);
+}
+
+void WorkingCopy::load(const QVariant& process_id) {
     for (data::SqlQuery* sql : {&sql_m, &sql_d, &sql_sd})
         sql->setParameter(QStringLiteral("process_id"), process_id);
     const Walk walk(*this);
@@ -137,7 +147,8 @@ void WorkingCopy::open(int process_id) {
     cds_d.reopen();
 }
 
-void WorkingCopy::appendAll() {
+void WorkingCopy::openNew() {
+    load(QVariant());
     cds_m.append();
     cds_d.append();
     cds_sd.append();
@@ -207,10 +218,69 @@ WorkingCopy::Sums WorkingCopy::sums() const {
     return sums;
 }
 
-void WorkingCopy::applyAll() {
-    fault::dropFault("saving the header of a run", [this] { cds_m.applyUpdates(); });
-    fault::dropFault("saving the lines of a run", [this] { cds_d.applyUpdates(); });
-    fault::dropFault("saving the rows of a run", [this] { cds_sd.applyUpdates(); });
+Saved WorkingCopy::save() {
+    try {
+        db::inTransaction(m_main, [this] { send(); });
+    } catch (const Refusal& refusal) {
+        return refusal.outcome;
+    } catch (const db::CommitUnknown&) {
+        const std::optional<bool> stored = isStored();
+        if (!stored)
+            return Saved::NotKnown;
+        if (!*stored)
+            throw;
+    }
+    for (data::ClientDataSet* set : {&cds_m, &cds_d, &cds_sd})
+        set->forgetChanges();
+    m_isNew = false;
+    m_loaded = m_sent;
+    return Saved::Stored;
+}
+
+void WorkingCopy::send() {
+    const bool isEmptied = makeRoom();
+    for (data::ClientDataSet* set : {&cds_m, &cds_d, &cds_sd})
+        isEmptied ? set->sendEverything() : set->sendChanges();
+    if (const std::optional<StoredRun> stored = readStoredRun(m_main, m_process_id))
+        m_sent = stored->content;
+}
+
+bool WorkingCopy::makeRoom() {
+    if (m_isNew)
+        m_process_id = cds_m.integer32(u"process_id");
+    const std::optional<StoredRun> stored = lockStoredRun(m_main, m_process_id);
+    // After a save whose end is not known the tables may hold that save.
+    const bool isReplaced = stored && (stored->content == m_sent || stored->content == m_replaced);
+    if (m_isNew && stored && !isReplaced) {
+        takeNextNumber();
+    } else if (!m_isNew && !isReplaced) {
+        if (!stored)
+            throw Refusal{Saved::Gone};
+        if (stored->content == m_loaded)
+            return false;
+        m_foreign = *stored;
+        throw Refusal{Saved::ChangedElsewhere};
+    }
+    deleteStoredRun(m_main, m_process_id);
+    return true;
+}
+
+void WorkingCopy::takeNextNumber() {
+    m_process_id = lockNextProcessId(m_main);
+    for (data::ClientDataSet* set : {&cds_m, &cds_d, &cds_sd})
+        set->setEverywhere(u"process_id", m_process_id);
+}
+
+std::optional<bool> WorkingCopy::isStored() {
+    std::optional<StoredRun> stored;
+    // The lock waits for the lost session, where the server is still busy with it.
+    const bool isAnswered = fault::dropFault("the look whether a run was saved", [&] {
+        const db::Transaction look(m_main);
+        stored = lockStoredRun(m_main, m_process_id);
+    });
+    if (!isAnswered)
+        return std::nullopt;
+    return stored && stored->content == m_sent;
 }
 
 } // namespace run

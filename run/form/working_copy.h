@@ -1,5 +1,6 @@
 #pragma once
 
+#include "run/form/stored_run.h"
 #include "run/run.h"
 #include "toolkit/data/client_data_set.h"
 
@@ -11,6 +12,14 @@ namespace run {
 struct Author {
     QString login_id;
     std::function<QDateTime()> now;
+};
+
+/// What became of a save.
+enum class Saved {
+    Stored,
+    Gone,             ///< the run was deleted elsewhere; nothing is stored
+    ChangedElsewhere, ///< since it was opened; nothing is stored
+    NotKnown,         ///< the connection was lost at the very end, and nobody answers
 };
 
 /// A run on the run form: the working copies of its header, lines and rows, tied together as the form needs them. The
@@ -29,10 +38,10 @@ public:
     /// Called when another line has become current or its rows have changed, except during walks over all lines.
     std::function<void()> lineShown;
 
-    /// Loads the run, or no run for an id that no run has.
+    /// Loads the run; no rows for a number that no run has.
     void open(int process_id);
     /// Begins a new run: a header, and a line and a row that stay behind only if somebody fills them in.
-    void appendAll();
+    void openNew();
     void editAll();
     /// Puts who and when into the header.
     void stamp();
@@ -51,12 +60,28 @@ public:
     };
     [[nodiscard]] Sums sums() const;
 
-    /// Writes all changes, each copy in a batch of its own; a batch that fails does not keep the next from its turn.
-    void applyAll();
+    /// Writes header, lines and rows in one transaction. A new run whose number was taken meanwhile takes the next
+    /// one, and nothing is left of what else stands under its number. Throws db::Fault; nothing is stored then, and all
+    /// that the copies hold is saved by the next call.
+    [[nodiscard]] Saved save();
+    /// The change on account of which save() gave ChangedElsewhere.
+    [[nodiscard]] const StoredRun& foreignChange() const { return m_foreign; }
+    /// The next save replaces that change, whole.
+    void replaceForeignChange() { m_replaced = m_foreign.content; }
 
 private:
     class Walk;
+    struct Refusal {
+        Saved outcome;
+    };
 
+    void load(const QVariant& process_id);
+    void send();
+    /// True where the tables now hold nothing under the number, false where the changes alone are to be written.
+    [[nodiscard]] bool makeRoom();
+    void takeNextNumber();
+    /// After a commit that was not answered; none where nobody answers now either.
+    [[nodiscard]] std::optional<bool> isStored();
     void connectEvents();
     [[nodiscard]] static int lastValue(const data::DataSet& set, QStringView field);
     void cds_mNewRecord();
@@ -69,6 +94,12 @@ private:
 
     db::Connection& m_main;
     const Author m_author;
+    int m_process_id = 0;
+    bool m_isNew = true;
+    QString m_loaded;                 ///< content of the run as it was loaded
+    StoredRun m_foreign;              ///< what another station made of it since
+    QString m_replaced;               ///< content that the user agreed to replace
+    QString m_sent;                   ///< content as the last save sent it
     int m_nomor_rincian_terakhir = 0; ///< last no_urut given in cds_d
     int m_nomor_baris_terakhir = 0;   ///< last no_urut_ref given in cds_sd
     int m_walks = 0;
