@@ -44,7 +44,7 @@ void Tfrm_hitung_gaji::btn_cetakClick() {
 
 std::optional<payroll::Request> Tfrm_hitung_gaji::ticked_runs() {
     QList<qint64> processIds;
-    fault::dropFault("collecting the ticked runs",
+    fault::dropFault("daftar perhitungan yang dicentang",
                      [&] { frame::forEachTicked(cds_m, [&] { processIds << cds_m.integer(u"process_id"); }); });
     if (!processIds.isEmpty())
         return payroll::Request{payroll::processFilter(processIds), m_ui->dtp_tgl_aw->date(),

@@ -57,7 +57,7 @@ std::vector<ColumnPlan> detailColumns(const QString& grid) {
 /// Each row rounded to whole rupiah; what cannot be read ends the sum.
 double sumOf(const data::DataSet& rows) {
     double sum = 0;
-    fault::dropFault("the sum of a list", [&] {
+    fault::dropFault("penjumlahan rincian gaji", [&] {
         const int field = rows.fieldIndex(u"subtot_payroll");
         for (int row = 0; row < rows.rowCount(); ++row)
             sum += std::nearbyint(data::realOf(rows.valueAt(row, field)));
@@ -202,20 +202,24 @@ void Tfrm_hitung_gaji::dbg_dClick() {
 }
 
 void Tfrm_hitung_gaji::btn_select_allClick() {
-    fault::dropFault("ticking all runs", [this] { frame::setTicks(cds_m, frame::TickWish::All); });
+    fault::dropFault("pencentangan semua perhitungan", [this] { frame::setTicks(cds_m, frame::TickWish::All); });
 }
 
 void Tfrm_hitung_gaji::btn_disselect_allClick() {
-    fault::dropFault("clearing all ticks", [this] { frame::setTicks(cds_m, frame::TickWish::None); });
+    fault::dropFault("penghapusan semua centang", [this] { frame::setTicks(cds_m, frame::TickWish::None); });
 }
 
 void Tfrm_hitung_gaji::btn_invertClick() {
-    fault::dropFault("inverting the ticks", [this] { frame::setTicks(cds_m, frame::TickWish::Invert); });
+    fault::dropFault("pembalikan centang", [this] { frame::setTicks(cds_m, frame::TickWish::Invert); });
 }
 
 void Tfrm_hitung_gaji::open_form(RunFormTask task) {
-    task.refresh = [this] { btn_cariClick(); };
-    task.goToLast = [this] { cds_m.last(); };
+    // The run is stored by then: a list that cannot be read must not look like a save that failed.
+    task.refresh = [this] { fault::dropFault("penyegaran daftar perhitungan", [this] { btn_cariClick(); }); };
+    task.goToLast = [this] {
+        if (cds_m.isOpen())
+            cds_m.last();
+    };
     Tfrm_isian_hitung_gaji(m_services, std::move(task), window()).exec();
 }
 
@@ -246,7 +250,7 @@ void Tfrm_hitung_gaji::delete_current_run() {
                                   isoDate(cds_m.date(u"date1")), isoDate(cds_m.date(u"date2")));
     m_services.audit.WriteUserLog(m_services.session.login_id, note, frame::payrollModule, m_services.session.clock());
     for (const char16_t* table : {u"z_pay_process_sd", u"z_pay_process_d", u"z_pay_process_m"})
-        fault::dropFault("deleting a run", [&] {
+        fault::dropFault("penghapusan data perhitungan gaji", [&] {
             m_services.session.ADOCom_update.execute(QStringLiteral("Delete From %1 Where process_id=%2 ")
                                                          .arg(QString::fromUtf16(table), cds_m.text(u"process_id")));
         });

@@ -40,9 +40,9 @@ Assembly::Assembly(Run& run, const Selections& selections, Lookups& lookups, con
 }
 
 void Assembly::everyone() {
-    fault::dropFault("the remaining groups", [&] {
+    fault::dropFault("group selebihnya", [&] {
         for (const int grp_id : m_selections.groups)
-            fault::dropFault("the remaining employees of a group", [&] {
+            fault::dropFault("karyawan selebihnya dalam group", [&] {
                 for (const Employee& employee : m_lookups.members(grp_id))
                     hitung_karyawan(grp_id, employee);
             });
@@ -72,9 +72,9 @@ void Assembly::hitung_karyawan(int grp_id, const Employee& employee) {
     line.pin = employee.pin;
     line.nik = employee.nik;
     line.nama = employee.nama;
-    fault::dropFault("the remaining components of an employee", [&] { computeComponents(grp_id, line); });
+    fault::dropFault("komponen selebihnya seorang karyawan", [&] { computeComponents(grp_id, line); });
     if (m_selections.loans != LoanTest::None)
-        fault::dropFault("the remaining loans of an employee", [&] { addLoans(line); });
+        fault::dropFault("pinjaman selebihnya seorang karyawan", [&] { addLoans(line); });
     numberRows(line);
     if (m_done)
         m_done(++m_employees);
@@ -95,7 +95,7 @@ void Assembly::computeComponents(int grp_id, Line& line) {
 }
 
 void Assembly::computePeriod(std::span<const Rule> rules, const Component& component, Evaluator& evaluator) {
-    fault::dropFault("the remaining rules of a component", [&] {
+    fault::dropFault("aturan selebihnya sebuah komponen", [&] {
         for (const Rule& rule : rules)
             evaluator.hitung_aturan(rule, component);
     });

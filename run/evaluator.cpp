@@ -35,7 +35,7 @@ void Evaluator::hitung_perhari(int grp_id, const Component& component) {
             continue;
         typex = rules.front().typex;
         param = rules.front().param;
-        fault::dropFault("the rest of one day's rules", [&] {
+        fault::dropFault("sisa aturan satu hari", [&] {
             for (const Rule& rule : rules)
                 hitung_aturan_hari(rule, m_period.tanggal_awal.addDays(day));
         });

@@ -22,10 +22,12 @@ constexpr auto ruleOrder = "order by com.type, com.no_urut, grp_com.no_urut_ref 
 void readFlag(db::Connection& app, QLatin1String param_id, bool& flag) {
     const auto value = readingOf([&] {
         db::Result found = app.query(u"Select * from global_setting where param_id='"_s + param_id + u"' "_s);
-        found.next();
-        return found.text(u"param_value"_s);
+        return found.next() ? std::optional(found.text(u"param_value"_s)) : std::nullopt;
     });
-    fault::dropFault("a setting of full attendance", [&] { flag = boolFromText(value.value()); });
+    fault::dropFault("pengaturan hadir penuh", [&] {
+        if (const std::optional<QString>& stored = value.value())
+            flag = boolFromText(*stored);
+    });
 }
 
 QString day(const QDate& date) {

@@ -13,7 +13,7 @@ namespace {
 qint32 netOf(RunView& view, int line) {
     qint32 earnings = 0;
     qint32 deductions = 0;
-    fault::dropFault("the remaining rows of a line's total", [&] {
+    fault::dropFault("rincian selebihnya dalam jumlah gaji", [&] {
         for (int row = 0; row < view.rowCount(line); ++row) {
             const RowAmount amount = view.row(line, row);
             const qint32 whole = wrapped32(wholeRupiah(moneyOfRupiah(amount.subtot_payroll)));
@@ -71,7 +71,7 @@ private:
 
 double hitung(RunView& view, double round_value) {
     qint32 total = 0;
-    fault::dropFault("the remaining lines of a run's total", [&] {
+    fault::dropFault("karyawan selebihnya dalam total penggajian", [&] {
         for (int line = 0; line < view.lineCount(); ++line) {
             const qint32 net = netOf(view, line);
             const qint32 tot_payroll = raisedToUnit(net, rounded32(round_value));

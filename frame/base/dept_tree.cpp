@@ -100,7 +100,7 @@ void placeAll(QTreeWidgetItem* top, const std::vector<Department>& departments) 
 }
 
 void insertRoot(Session& session, QTreeWidgetItem* top) {
-    fault::dropFault("the first department", [&] {
+    fault::dropFault("departemen pertama", [&] {
         session.ADOCom_update.execute(QStringLiteral("insert into dept(dept_id_auto,dept_name) values(1,") +
                                       quotedSqlText(firstDepartment) + u')');
     });

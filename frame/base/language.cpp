@@ -93,7 +93,7 @@ QObject* findComponent(QWidget& form, const QString& name) {
 }
 
 void Language::ApplyLanguage(QWidget& form) {
-    fault::dropFault("the captions of a form", [&] { applyRows(form); });
+    fault::dropFault("teks layar dalam bahasa terpilih", [&] { applyRows(form); });
 }
 
 void Language::applyRows(QWidget& form) {

@@ -1,6 +1,6 @@
 #include "frame/base/messages.h"
 
-#include "toolkit/data/drop_fault.h"
+#include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/sql_text.h"
 
 #include <utility>
@@ -52,7 +52,7 @@ QString Messages::textOf(const MessageText& message) {
         if (!fault.isConnectionLoss())
             throw;
         // What is to be said about a lost connection would be lost with it.
-        data::reportDroppedFault("the stored text of a message", fault);
+        fault::reportDroppedFault("teks pesan yang tersimpan", fault);
         return message.text();
     }
 }

@@ -30,7 +30,13 @@ void Screen::showEvent(QShowEvent* event) {
         resize(size().boundedTo(screen()->availableSize()));
     if (!event->spontaneous())
         QMetaObject::invokeMethod(
-            this, [this] { runHandler(this, [this] { FormActivate(); }); }, Qt::QueuedConnection);
+            this,
+            [this] {
+                // A screen that could not be opened is of no use to anybody.
+                if (!runHandler(this, [this] { FormActivate(); }))
+                    done(Rejected);
+            },
+            Qt::QueuedConnection);
 }
 
 void Screen::openModal(Screen& child) {

@@ -13,7 +13,7 @@ public:
     Screen(frame::Services& services, QWidget* parent);
 
 protected:
-    /// What the screen does when it is activated; a fault is shown.
+    /// What the screen does when it is activated; a fault is shown, and where the screen has just appeared it closes.
     virtual void FormActivate() {}
 
     void showEvent(QShowEvent* event) override;

@@ -23,7 +23,12 @@ void Workspace::showEvent(QShowEvent* event) {
     if (event->spontaneous() || !std::exchange(m_firstActivation, false))
         return;
     QMetaObject::invokeMethod(
-        this, [this] { runHandler(this, [this] { FormActivate(); }); }, Qt::QueuedConnection);
+        this,
+        [this] {
+            if (!runHandler(this, [this] { FormActivate(); }))
+                close();
+        },
+        Qt::QueuedConnection);
 }
 
 void Workspace::closeEvent(QCloseEvent* event) {

@@ -25,7 +25,7 @@ Q_SIGNALS:
     void closed();
 
 protected:
-    /// What the workspace does when it first appears; a fault is shown.
+    /// What the workspace does when it first appears; a fault is shown and closes it.
     virtual void FormActivate() {}
     /// What it does before it goes.
     virtual void FormClose() {}

@@ -57,10 +57,14 @@ std::exception_ptr faultOf(Action&& action) {
 
 Tfrm_menu::Tfrm_menu(QString folder, frame::Clock clock, frame::UserSettingReader readUserSetting) :
     m_ui(std::make_unique<Ui::frm_menu>()), m_folder(std::move(folder)), m_readUserSetting(std::move(readUserSetting)),
-    m_services(std::move(clock), this) {
+    m_services(std::move(clock), this), btn_pemberitahuan(new QToolButton(this)),
+    m_notices(m_services, *this, *btn_pemberitahuan) {
     loadPictures();
     m_ui->setupUi(this);
     m_ui->StatusBar->setPanelCount(panelCount);
+    btn_pemberitahuan->setObjectName(QStringLiteral("btn_pemberitahuan"));
+    m_ui->StatusBar->addPermanentWidget(btn_pemberitahuan);
+    btn_pemberitahuan->hide();
     m_ui->filter->attach(m_session);
     m_ui->pnl_emp->hide();
     setUpRecap();
@@ -89,7 +93,8 @@ void Tfrm_menu::connectHandlers() {
     onEvent(m_ui->btn_userlog, &QPushButton::clicked, this, &Tfrm_menu::btn_userlogClick);
     Timer1.setSingleShot(true);
     Timer1.setInterval(std::chrono::seconds(1));
-    onEvent(&Timer1, &QTimer::timeout, this, &Tfrm_menu::Timer1Timer);
+    // The guide is no action of the person at the screen; what the frame tells stays.
+    connect(&Timer1, &QTimer::timeout, this, [this] { runHandler(nullptr, [this] { Timer1Timer(); }); });
 }
 
 bool Tfrm_menu::FormCreate() {
@@ -102,7 +107,7 @@ bool Tfrm_menu::FormCreate() {
     }
     for (MagnifyingImage* image : {m_ui->Image1, m_ui->Image2, m_ui->Image3})
         image->setMagnification(imageMagnification);
-    fault::dropFault("opening the sessions", [this] { frame::openSessions(m_folder, *m_ping, m_session); });
+    fault::dropFault("pembukaan sesi basis data", [this] { frame::openSessions(m_folder, *m_ping, m_session); });
     first_activate = m_session.ADOConn.isOpen();
     if (first_activate)
         Timer1.start();
@@ -123,7 +128,7 @@ void Tfrm_menu::comeForward() {
 }
 
 bool Tfrm_menu::event(QEvent* event) {
-    if (event->type() == QEvent::WindowActivate)
+    if (event->type() == QEvent::WindowActivate && first_activate)
         runHandler(this, [this] { FormActivate(); });
     return QMainWindow::event(event);
 }
@@ -134,6 +139,7 @@ void Tfrm_menu::FormActivate() {
     // Before anything else can fail; its own fault waits until the frame stands in the user's language.
     const std::exception_ptr noBranch = faultOf([this] { read_session_cab(); });
     m_services.language.ApplyLanguage(*this);
+    m_notices.readTexts();
     read_change_lang();
     // Laid out anew with the texts of the language.
     m_ui->pnl_tengah->hide();

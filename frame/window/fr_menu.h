@@ -1,5 +1,6 @@
 #pragma once
 
+#include "frame/base/notices.h"
 #include "frame/base/workspace.h"
 #include "frame/window/fr_warning.h"
 #include "frame/window/recap_colours.h"
@@ -87,5 +88,7 @@ private:
     std::unique_ptr<Tfrm_warning> m_frm_warning;
     NamedText txt_tanggal{this, QStringLiteral("txt_tanggal"), QStringLiteral("Tanggal : ")};
     NamedText txt_sd{this, QStringLiteral("txt_sd"), QStringLiteral(" s/d ")};
+    QToolButton* btn_pemberitahuan;
+    frame::Notices m_notices;
     bool first_activate = false;
 };

@@ -61,7 +61,11 @@ constexpr std::array rules{
 ColourSettings readColourSettings(frame::Session& session) {
     ColourSettings settings;
     const auto read = [&](QLatin1String key, auto& field, auto fromText) {
-        fault::dropFault("a colour setting", [&] { field = fromText(valueOf(session, key)); });
+        fault::dropFault("pengaturan warna rekap", [&] {
+            // A key that is not there is no fault.
+            if (const QString value = valueOf(session, key); !value.isEmpty())
+                field = fromText(value);
+        });
     };
     for (const auto& [key, flag] : flags)
         read(key, settings.*flag, boolFromText);

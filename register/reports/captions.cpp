@@ -46,7 +46,7 @@ report::Captions defaultCaptions() {
 
 report::Captions captionsOf(frame::Session& session, const QString& lang_column) {
     report::Captions captions = defaultCaptions();
-    fault::dropFault("the captions of the payroll reports", [&] {
+    fault::dropFault("teks laporan penggajian", [&] {
         data::SqlQuery& sql = session.sql_temp_lang;
         sql.openSql(u"select * from change_lang where com_form='frm_hitung_gaji' "_s);
         for (; !sql.isEof(); sql.next()) {

@@ -32,7 +32,7 @@ Heading PayrollReports::readHeading(const Request& request) {
 // The wide rows of these statements outgrow the server's usual limit for temporary tables in memory after a few
 // thousand lines; on disk they take twice as long. A server that refuses only loses the time.
 void PayrollReports::allowLargeTemporaryTables() {
-    fault::dropFault("the limit of temporary tables", [this] {
+    fault::dropFault("batas tabel sementara di server", [this] {
         m_session.ADOConn.execute(u"SET SESSION tmp_table_size=268435456, max_heap_table_size=268435456"_s);
     });
 }

@@ -330,7 +330,7 @@ void Tfrm_isian_hitung_gaji::save_log(const QString& action) {
         QStringLiteral("%1 - %2 - [%3, %4 -- %5]")
             .arg(windowTitle(), action, m_ui->dbe_nama->text(), m_copy.cds_m.date(u"date1").toString(date),
                  m_copy.cds_m.date(u"date2").toString(date));
-    fault::dropFault("the audit row of a saved run", [&] {
+    fault::dropFault("catatan user log dari penyimpanan", [&] {
         m_services.audit.WriteUserLog(m_services.session.login_id, note, frame::payrollModule,
                                       m_services.session.clock());
     });

@@ -65,7 +65,7 @@ void Tfrm_isian_hitung_gaji::dbg_grppilihToggleClick(const QString& text) {
     for (cds_komp.last(); !cds_komp.isEmpty();)
         cds_komp.remove();
     for (vir_tb.first(); !vir_tb.isEof(); vir_tb.next())
-        fault::dropFault("the components of a group", [this] { isi_komponen_grup(vir_tb.integer32(u"grp_id")); });
+        fault::dropFault("komponen sebuah group", [this] { isi_komponen_grup(vir_tb.integer32(u"grp_id")); });
     cds_komp.first();
     FitGridColumns(*m_ui->dbg_kom);
 }

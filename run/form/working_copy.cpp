@@ -274,7 +274,7 @@ void WorkingCopy::takeNextNumber() {
 std::optional<bool> WorkingCopy::isStored() {
     std::optional<StoredRun> stored;
     // The lock waits for the lost session, where the server is still busy with it.
-    const bool isAnswered = fault::dropFault("the look whether a run was saved", [&] {
+    const bool isAnswered = fault::dropFault("pemeriksaan apakah perhitungan gaji tersimpan", [&] {
         const db::Transaction look(m_main);
         stored = lockStoredRun(m_main, m_process_id);
     });

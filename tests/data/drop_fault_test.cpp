@@ -21,5 +21,23 @@ TEST(DroppedFaults, AreSilentUnlessSomebodyListens) {
     EXPECT_EQ(loggedUnder(u"orvane.fault=true"_s, refused),
               "orvane.fault: delete of a run | no such table | 1146 42S02 | DELETE FROM x\n");
     EXPECT_EQ(loggedUnder(u"orvane.fault=true"_s, failed), "orvane.fault: delete of a run | too far\n");
-    EXPECT_TRUE(fault::dropFault("nothing", [] {}));
+}
+
+TEST(DroppedFaults, AreToldToTheYoungestListenerAndToWhoeverAsks) {
+    std::string told;
+    const auto listener = [&told](const char* name) {
+        return [&told, name](const char* what, const std::exception& fault) {
+            told += std::string(name) + ':' + what + '-' + fault.what() + ' ';
+        };
+    };
+    const auto failing = [] { throw std::range_error("far"); };
+    const fault::DropListening older(listener("older"));
+    {
+        const fault::DropListening younger(listener("younger"));
+        EXPECT_FALSE(fault::dropFault("a", failing, listener("caller")));
+    }
+    EXPECT_TRUE(fault::dropFault(
+        "b", [] {}, listener("caller")));
+    EXPECT_FALSE(fault::dropFault("c", failing));
+    EXPECT_EQ(told, "younger:a-far caller:a-far older:c-far ");
 }

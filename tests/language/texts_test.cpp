@@ -2,6 +2,7 @@
 
 #include "frame/base/fr_browse_emp.h"
 #include "frame/base/fr_userlog.h"
+#include "frame/base/notices.h"
 #include "frame/window/fr_menu.h"
 #include "frame/window/fr_warning.h"
 #include "register/fr_hitung_gaji.h"
@@ -13,6 +14,8 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
+#include <QDirIterator>
+#include <QRegularExpression>
 #include <QTabWidget>
 #include <gtest/gtest.h>
 
@@ -93,10 +96,30 @@ Texts textsOfProgram() {
     collect.form(Tfrm_isian_hitung_gaji(services, {}, nullptr));
     collect.form(Tfrm_preview(report::Document{}, nullptr));
     collect.form(Tfrm_hitung_gaji(services, nullptr));
+    collect.form(Tfrm_daftar(services, frame::Notices::emptyList(), nullptr));
     const report::Captions captions = payroll::defaultCaptions();
     for (auto caption = captions.byName().begin(); caption != captions.byName().end(); ++caption)
         collect.add(caption.key(), -1, caption.value());
     return texts;
+}
+
+/// What the guards of the program name as given up: the literals stand in the sources.
+Texts droppedThings() {
+    Texts things;
+    const QRegularExpression guard(uR"re(fault::dropFault\((?:\s*"([^"]*)")?)re"_qs);
+    for (QDirIterator file(QStringLiteral(ORVANE_SOURCES), {u"*.cpp"_qs, u"*.h"_qs}, QDir::Files,
+                           QDirIterator::Subdirectories);
+         file.hasNext();) {
+        QFile source(file.next());
+        if (file.filePath().contains(QRegularExpression(u"/(build|tests)/"_qs)) || !source.open(QIODevice::ReadOnly))
+            continue;
+        const QString text = QString::fromUtf8(source.readAll());
+        for (const QRegularExpressionMatch& found : guard.globalMatch(text)) {
+            EXPECT_TRUE(found.hasCaptured(1)) << "not named by a literal: " << file.filePath().toStdString();
+            things.emplace_back(u"frm_pemberitahuan\t%1\t-1"_qs.arg(found.captured(1)).toLower(), found.captured(1));
+        }
+    }
+    return things;
 }
 
 /// The statement gives the key in three columns, then the Indonesian and the English text.
@@ -118,6 +141,12 @@ TEST(LanguageTables, HoldEveryCaptionInBothLanguages) {
     const Texts texts = textsOfProgram();
     ASSERT_GT(texts.size(), 150u);
     expectRows(texts, u"select com_form, com_name, no_index, indonesia, ifnull(english, '') from change_lang"_qs);
+}
+
+TEST(LanguageTables, HoldEveryThingThatIsGivenUp) {
+    const Texts things = droppedThings();
+    ASSERT_GT(things.size(), 20u);
+    expectRows(things, u"select com_form, com_name, no_index, indonesia, ifnull(english, '') from change_lang"_qs);
 }
 
 TEST(LanguageTables, HoldEveryMessageInBothLanguages) {

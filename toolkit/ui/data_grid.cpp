@@ -131,7 +131,7 @@ void DataGrid::mousePressEvent(QMouseEvent* event) {
 bool DataGrid::edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) {
     const bool opened = QTableView::edit(index, trigger, event);
     if (opened && indexWidget(index) && dataSet()->state() == data::State::Browse)
-        fault::dropFault("editing a record that takes no changes", [this] { dataSet()->edit(); });
+        fault::dropFault("perubahan baris yang hanya dapat dibaca", [this] { dataSet()->edit(); });
     return opened;
 }
 

@@ -121,7 +121,7 @@ bool GridModel::setData(const QModelIndex& index, const QVariant& value, int rol
     if (role != Qt::EditRole || !(flags(index) & Qt::ItemIsEditable))
         return false;
     const QString text = isNumber(index.column()) ? NormalizeDecimal(value.toString()) : value.toString();
-    return fault::dropFault("an entry that the field does not take", [&] {
+    return fault::dropFault("isian yang tidak cocok dengan kolomnya", [&] {
         if (m_set->row() != index.row())
             m_set->goToRow(index.row());
         m_set->editValue(m_columns[std::size_t(index.column())]->field(), text);

@@ -28,6 +28,7 @@ constexpr char16_t sheet[] = uR"(
     *[judul="true"] { background: #0f4c64; color: white; padding: 5px 10px; font-weight: bold; }
     *[jumlah="true"] { font-size: 13pt; font-weight: bold; color: #0f4c64; }
     *[tebal="true"] { font-weight: bold; }
+    #pnl_notice { background: #fff4d6; border-top: 1px solid #e3c878; }
     QStatusBar { background: #e4e9ed; }
     QStatusBar::item { border-right: 1px solid #c3ccd4; }
 )";

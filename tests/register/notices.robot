@@ -1,0 +1,59 @@
+# What is passed over is told at the foot of the screen in front and kept in a list; screens that cannot open close.
+#: options --user hrd --now "2026-11-05 08:15"
+#: app-file app.sql
+#: main-file company.sql
+#: app insert into global_setting values ('cl_absen', 'no colour');
+#: app insert into change_lang values ('frm_pemberitahuan', 'catatan user log dari penyimpanan', -1, 'catatan log', 'the log entry');
+start
+get frm_menu.lbl_notice
+get frm_menu.btn_pemberitahuan
+echo the next action that succeeds takes it away, the list keeps it
+click frm_menu.Image2
+state frm_menu.pnl_notice
+get frm_menu.btn_pemberitahuan
+echo a save without its audit row: stored, and told on the screen that stays
+#: main create trigger no_log before insert on user_log for each row signal sqlstate '45000' set message_text='no log today';
+click btn_tambah
+type dbe_nama "Tanpa catatan"
+click btn_simpan
+forms
+get frm_menu.lbl_notice
+click frm_menu.btn_notice_close
+state frm_menu.pnl_notice
+echo nor can the list be read after it: the form closes all the same
+#: main alter table func change func_name gone varchar(100);
+click btn_tambah
+type dbe_nama "Tanpa daftar"
+click btn_simpan
+forms
+get frm_menu.lbl_notice
+#: rows select process_id, process_name from z_pay_process_m
+echo screens that cannot open
+#: main alter table z_pay_grp change grp_name gone varchar(100);
+click btn_tambah
+wait 100
+forms
+click frm_menu.Image2
+wait 100
+forms
+#: main alter table func change gone func_name varchar(100);
+#: main alter table z_pay_grp change gone grp_name varchar(100);
+echo on a screen of its own, which Esc still closes
+click frm_menu.Image2
+click btn_tambah
+tick dbg_grp kode_grp=STF
+click btn_select_all2
+#: main alter table z_pay_com change no_urut gone int;
+click btn_select_all
+state lbl_notice
+get lbl_notice
+click btn_proses
+get lbl_notice
+key Esc
+forms
+echo the list
+click frm_menu.btn_pemberitahuan
+grid dbg_daftar
+click btn_salin
+click btn_tutup
+get frm_menu.btn_pemberitahuan

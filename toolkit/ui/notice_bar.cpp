@@ -1,0 +1,148 @@
+#include "toolkit/ui/notice_bar.h"
+
+#include "toolkit/ui/handler.h"
+
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMainWindow>
+#include <QPainter>
+#include <QToolButton>
+
+#include <utility>
+
+namespace {
+
+/// One line of plain text: what finds no room is cut in the middle and stands in the tool tip.
+class NoticeLabel final : public QLabel {
+public:
+    NoticeLabel() {
+        setTextFormat(Qt::PlainText);
+        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter(this).drawText(contentsRect(), int(Qt::AlignVCenter),
+                                fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()));
+    }
+};
+
+QWidget* hostOf(const QWidget& screen) {
+    const auto* frame = qobject_cast<QMainWindow*>(screen.window());
+    return frame ? frame->centralWidget() : screen.window();
+}
+
+NoticeBar* barIn(const QWidget& host) {
+    return host.findChild<NoticeBar*>(QString(), Qt::FindDirectChildrenOnly);
+}
+
+QToolButton* newButton(const QString& name, const QString& text) {
+    auto* button = new QToolButton;
+    button->setObjectName(name);
+    button->setText(text);
+    button->setAutoRaise(true);
+    // Reached with Tab; a click leaves the focus where the work is.
+    button->setFocusPolicy(Qt::TabFocus);
+    return button;
+}
+
+} // namespace
+
+NoticeBar& NoticeBar::of(QWidget& screen) {
+    QWidget* host = hostOf(screen);
+    NoticeBar* bar = barIn(*host);
+    return bar ? *bar : *new NoticeBar(*host);
+}
+
+NoticeBar* NoticeBar::atActionOf(const QWidget* screen) {
+    const QWidget* host = screen ? hostOf(*screen) : nullptr;
+    NoticeBar* bar = host ? barIn(*host) : nullptr;
+    if (bar)
+        bar->m_isOld = true;
+    return bar;
+}
+
+NoticeBar::NoticeBar(QWidget& host) :
+    QFrame(&host), m_label(new NoticeLabel), m_button(newButton(QStringLiteral("btn_notice"), {})) {
+    setObjectName(QStringLiteral("pnl_notice"));
+    m_label->setObjectName(QStringLiteral("lbl_notice"));
+    QToolButton* close = newButton(QStringLiteral("btn_notice_close"), QStringLiteral("✕"));
+    connect(m_button, &QToolButton::clicked, this, [this] { runHandler(nullptr, m_notice.more); });
+    connect(close, &QToolButton::clicked, this, [this] {
+        m_isOld = true;
+        dropOld();
+        hide();
+    });
+    auto* layout = new QHBoxLayout(this);
+    layout->setContentsMargins(8, 1, 2, 1);
+    layout->addWidget(m_label, 1);
+    layout->addWidget(m_button);
+    layout->addWidget(close);
+    setAttribute(Qt::WA_StyledBackground);
+    host.installEventFilter(this);
+    hide();
+}
+
+void NoticeBar::actionSucceeded() {
+    if (m_isOld)
+        hide();
+}
+
+void NoticeBar::dropOld() {
+    if (!std::exchange(m_isOld, false))
+        return;
+    m_notice = {};
+    m_dropped.clear();
+    m_furtherDropped = 0;
+}
+
+void NoticeBar::tell(const Notice& notice) {
+    dropOld();
+    m_notice = notice;
+    display();
+}
+
+void NoticeBar::tellDropped(const QString& text, int times) {
+    dropOld();
+    m_furtherDropped += m_dropped.isEmpty() ? times - 1 : times;
+    if (m_dropped.isEmpty())
+        m_dropped = text;
+    display();
+}
+
+void NoticeBar::display() {
+    QStringList parts;
+    if (!m_notice.text.isEmpty())
+        parts << m_notice.text;
+    if (!m_dropped.isEmpty())
+        parts << m_dropped + (m_furtherDropped > 0 ? QStringLiteral(" (+%1)").arg(m_furtherDropped) : QString());
+    m_label->setText(parts.join(QStringLiteral("  |  ")).simplified());
+    m_label->setToolTip(QStringLiteral("<qt>%1</qt>").arg(m_label->text().toHtmlEscaped()));
+    m_button->setText(m_notice.moreCaption);
+    m_button->setVisible(bool(m_notice.more));
+    show();
+    place();
+    raise();
+}
+
+void NoticeBar::place() {
+    const QSize room = parentWidget()->size();
+    setGeometry(0, room.height() - sizeHint().height(), room.width(), sizeHint().height());
+}
+
+void NoticeBar::showEvent(QShowEvent* event) {
+    QFrame::showEvent(event);
+    parentWidget()->setContentsMargins(0, 0, 0, sizeHint().height());
+}
+
+void NoticeBar::hideEvent(QHideEvent* event) {
+    QFrame::hideEvent(event);
+    parentWidget()->setContentsMargins(0, 0, 0, 0);
+}
+
+bool NoticeBar::eventFilter(QObject*, QEvent* event) {
+    if (event->type() == QEvent::Resize)
+        place();
+    return false;
+}
