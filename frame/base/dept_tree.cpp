@@ -78,7 +78,7 @@ private:
 
     /// Under the root with its whole path, where it can be seen and chosen.
     QTreeWidgetItem* addOrphan(const QString& path) {
-        fault::dropFault("the place of a department", [&] { throw data::Fault(path); });
+        fault::dropFault("tempat sebuah departemen dalam susunannya", [&] { throw data::Fault(path); });
         return add(m_top->childCount() > 0 ? m_top->child(0) : m_top, path);
     }
 

@@ -206,7 +206,7 @@ void Tfrm_menu::read_session_cab() {
         if (m_session.sql_temp.isEmpty())
             throw data::Fault(branch.condition());
     };
-    if (fault::dropFault("the branch of this session", mustExist))
+    if (fault::dropFault("cabang yang membatasi pemakai ini", mustExist))
         m_session.session_cab_id = branch;
 }
 

@@ -316,11 +316,9 @@ run::Saved Tfrm_isian_hitung_gaji::write_run() {
 
 void Tfrm_isian_hitung_gaji::selesai() {
     save_log(m_task.mode == RunFormTask::New ? QStringLiteral("Insert") : QStringLiteral("Update"));
-    fault::dropFault("the list of runs after a save", [this] {
-        m_task.refresh();
-        if (m_task.mode == RunFormTask::New && m_task.goToLast)
-            m_task.goToLast();
-    });
+    m_task.refresh();
+    if (m_task.mode == RunFormTask::New && m_task.goToLast)
+        m_task.goToLast();
     close();
 }
 
