@@ -44,7 +44,7 @@ QWidget* FilterBlock::screen() {
 
 void FilterBlock::connectControls() {
     const auto guarded = [this](void (FilterBlock::*handler)()) {
-        return [this, handler] { runHandler(screen(), [&] { (this->*handler)(); }); };
+        return [this, handler] { runHandler(screen(), [this, handler] { (this->*handler)(); }); };
     };
     connect(m_ui->cmb_filter, &QComboBox::activated, this, guarded(&FilterBlock::cmb_filterCloseUp));
     connect(m_ui->lookup_cab, &LookupBox::closedUp, this, guarded(&FilterBlock::lookup_cabCloseUp));

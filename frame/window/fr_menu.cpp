@@ -60,6 +60,8 @@ Tfrm_menu::Tfrm_menu(QString folder, frame::Clock clock, frame::UserSettingReade
     m_services(std::move(clock), this), btn_pemberitahuan(new QToolButton(this)),
     m_notices(m_services, *this, *btn_pemberitahuan) {
     loadPictures();
+    for (db::Connection* connection : {&m_session.ADOConn, &m_session.ADOConn_lang})
+        connection->setWatch(&m_statement_wait);
     m_ui->setupUi(this);
     m_ui->StatusBar->setPanelCount(panelCount);
     btn_pemberitahuan->setObjectName(QStringLiteral("btn_pemberitahuan"));

@@ -4,6 +4,7 @@
 #include "frame/base/workspace.h"
 #include "frame/window/fr_warning.h"
 #include "frame/window/recap_colours.h"
+#include "frame/window/statement_wait.h"
 #include "toolkit/platform/host.h"
 #include "toolkit/ui/named_text.h"
 
@@ -77,6 +78,7 @@ private:
     std::unique_ptr<Ui::frm_menu> m_ui;
     const QString m_folder;
     const frame::UserSettingReader m_readUserSetting;
+    StatementWait m_statement_wait{*this};
     frame::Services m_services;
     frame::Session& m_session = m_services.session;
     std::optional<platform::PingSocket> m_ping;

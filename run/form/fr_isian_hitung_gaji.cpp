@@ -136,10 +136,12 @@ void Tfrm_isian_hitung_gaji::connect_handlers() {
     onEvent(m_ui->cmb_kredit, &QComboBox::activated, this, &Self::cmb_kreditCloseUp);
     onEvent(m_ui->clb_emp, &QListWidget::itemChanged, this, &Self::clb_empClickCheck);
     connect(m_ui->btn_tutup, &QPushButton::clicked, this, &QDialog::close);
-    connect(m_ui->dbg_grp, &DataGrid::toggled, this,
-            [this](const QString&, const QString& text) { runHandler(this, [&] { dbg_grppilihToggleClick(text); }); });
-    connect(m_ui->dbg_kom, &DataGrid::toggled, this,
-            [this](const QString&, const QString& text) { runHandler(this, [&] { dbg_kompilihToggleClick(text); }); });
+    connect(m_ui->dbg_grp, &DataGrid::toggled, this, [this](const QString&, const QString& text) {
+        runHandler(this, [this, text] { dbg_grppilihToggleClick(text); });
+    });
+    connect(m_ui->dbg_kom, &DataGrid::toggled, this, [this](const QString&, const QString& text) {
+        runHandler(this, [this, text] { dbg_kompilihToggleClick(text); });
+    });
     connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { pnl_empExit(now); });
 }
 
@@ -280,10 +282,12 @@ bool Tfrm_isian_hitung_gaji::cek_nama_proses() {
 
 void Tfrm_isian_hitung_gaji::btn_simpanClick() {
     bool isStored = false;
-    runHandler(this, [&] {
+    try {
         m_copy.cds_m.settle();
         isStored = cek_nama_proses() && m_task.mode != RunFormTask::View && simpan();
-    });
+    } catch (const std::exception& fault) {
+        showFault(this, fault);
+    }
     if (isStored)
         selesai();
     m_task.refresh();

@@ -1,8 +1,8 @@
 #include "run/form/working_copy.h"
 
 #include "run/form/form_run_view.h"
-#include "toolkit/fault/drop_fault.h"
 #include "toolkit/db/transaction.h"
+#include "toolkit/fault/drop_fault.h"
 
 #include <cmath>
 #include <utility>

@@ -1,5 +1,7 @@
 #include "tests/robot/robot.h"
 
+#include "toolkit/ui/wait_panel.h"
+
 #include <QApplication>
 #include <QtTest/qtestsystem.h>
 
@@ -50,8 +52,12 @@ void Robot::startProgram() {
     print(started ? QStringLiteral("started") : QStringLiteral("refused"));
 }
 
-/// What holds everything behind it: a menu or list that is dropped down, else a modal screen.
+/// What holds everything behind it: a panel over a running statement until it is cancelled, a menu or list that is
+/// dropped down, else a modal screen.
 QWidget* Robot::frontWindow() {
+    for (QWidget* widget : QApplication::allWidgets())
+        if (auto* panel = qobject_cast<WaitPanel*>(widget); panel && panel->isVisible() && !panel->isCancelled())
+            return panel;
     QWidget* popup = QApplication::activePopupWidget();
     return popup ? popup : QApplication::activeModalWidget();
 }

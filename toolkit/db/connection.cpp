@@ -1,5 +1,8 @@
 #include "toolkit/db/connection.h"
 
+#include "toolkit/db/session_setup.h"
+#include "toolkit/db/wait.h"
+
 #include <errmsg.h>
 #include <mysql.h>
 #include <poll.h>
@@ -7,28 +10,6 @@
 #include <utility>
 
 namespace db {
-
-namespace {
-
-unsigned secondsOf(std::chrono::seconds wait) {
-    return unsigned(wait.count());
-}
-
-void setWaits(MYSQL* session, const Waits& waits) {
-    const unsigned connect = secondsOf(waits.connect);
-    const unsigned read = secondsOf(waits.read);
-    const unsigned write = secondsOf(waits.write);
-    mysql_options(session, MYSQL_OPT_CONNECT_TIMEOUT, &connect);
-    mysql_options(session, MYSQL_OPT_READ_TIMEOUT, &read);
-    mysql_options(session, MYSQL_OPT_WRITE_TIMEOUT, &write);
-}
-
-Fault faultOf(MYSQL* session, const QString& sql) {
-    return Fault(mysql_errno(session), QString::fromLatin1(mysql_sqlstate(session)),
-                 QString::fromUtf8(mysql_error(session)), sql);
-}
-
-} // namespace
 
 void Connection::Close::operator()(st_mysql* session) const {
     mysql_close(session);
@@ -44,41 +25,47 @@ void Connection::configure(ConnectionSettings settings, Waits waits) {
 
 void Connection::open() {
     close();
+    const Wait wait(*this, Wait::Phase::Connecting);
+    try {
+        connect(Encryption::WhereOffered);
+    } catch (const Fault& fault) {
+        // Servers of ten years ago offer only what is too weak for today's library. Whoever stands between could also
+        // strip the offer, so nothing is lost by going on as with a server that makes none.
+        if (fault.code() != CR_SSL_CONNECTION_ERROR)
+            throw wait.judged(fault);
+        connect(Encryption::None);
+    }
+}
+
+void Connection::connect(Encryption encryption) {
     std::unique_ptr<st_mysql, Close> session(mysql_init(nullptr));
-    setWaits(session.get(), m_waits);
-    // The name "localhost" would make the client library look for a socket file; the settings always name a port.
-    const unsigned protocol = MYSQL_PROTOCOL_TCP;
-    mysql_options(session.get(), MYSQL_OPT_PROTOCOL, &protocol);
-    mysql_options(session.get(), MYSQL_SET_CHARSET_NAME, "utf8mb4");
+    setOptions(session.get(), m_waits.connect, encryption);
+    Wait::install(session.get());
     const QByteArray host = m_settings.host.toUtf8();
     const QByteArray user = m_settings.user.toUtf8();
     const QByteArray password = m_settings.password.toUtf8();
     const QByteArray database = m_settings.database.toUtf8();
     if (!mysql_real_connect(session.get(), host.constData(), user.constData(), password.constData(),
                             database.isEmpty() ? nullptr : database.constData(), m_settings.port, nullptr, 0))
-        throw faultOf(session.get(), {});
+        throw faultOf(session.get());
+    keepAlive(session.get());
+    m_server = agreeOnSession(session.get());
     m_session = std::move(session);
-    applySessionDefaults();
 }
 
 void Connection::close() {
     m_session.reset();
 }
 
-void Connection::applySessionDefaults() {
-    // The tables' users rely on lax servers: too long texts are cut, and statements mix count(*) with columns.
-    static constexpr char setUp[] = "SET SESSION sql_mode='', autocommit=1";
-    if (mysql_real_query(m_session.get(), setUp, sizeof setUp - 1) != 0) {
-        const Fault fault = faultOf(m_session.get(), QString::fromLatin1(setUp));
-        close();
-        throw fault;
-    }
-}
-
 bool Connection::peerHasClosed() const {
     // Between two statements the server has nothing to say; anything readable is its farewell or the end of the stream.
     pollfd descriptor{.fd = int(mysql_get_socket(m_session.get())), .events = POLLIN, .revents = 0};
     return poll(&descriptor, 1, 0) > 0;
+}
+
+int Connection::write(const QByteArray& utf8) {
+    const Wait wait(*this, Wait::Phase::Sending);
+    return mysql_send_query(m_session.get(), utf8.constData(), static_cast<unsigned long>(utf8.size()));
 }
 
 void Connection::openAsNeeded(const QString& sql) {
@@ -101,13 +88,13 @@ void Connection::send(const QString& sql) {
     openAsNeeded(sql);
     ++m_statements;
     const QByteArray utf8 = sql.toUtf8();
-    if (mysql_send_query(m_session.get(), utf8.constData(), static_cast<unsigned long>(utf8.size())) != 0) {
+    if (write(utf8) != 0) {
         // A command that could not be written whole was not carried out, so one more try on a new session is safe.
-        if (fresh || m_inTransaction)
+        if (fresh || m_inTransaction || m_wait->isGivenUp())
             raise(sql);
         close();
         openAsNeeded(sql);
-        if (mysql_send_query(m_session.get(), utf8.constData(), static_cast<unsigned long>(utf8.size())) != 0)
+        if (write(utf8) != 0)
             raise(sql);
     }
     if (mysql_read_query_result(m_session.get()) != 0)
@@ -117,17 +104,18 @@ void Connection::send(const QString& sql) {
 void Connection::raise(const QString& sql) {
     const Fault fault = faultOf(m_session.get(), sql);
     // The session is broken, or the server is about to end it; the next statement opens a new one.
-    if (fault.stopsWork())
+    if (fault.stopsWork() && !(fault.isInterrupted() && m_wait->isKilled()))
         close();
-    throw fault;
+    throw m_wait->judged(fault);
 }
 
 Result Connection::query(const QString& sql) {
+    const Wait wait(*this, Wait::Phase::Answering);
     openAsNeeded(sql);
     try {
         return fetch(sql);
     } catch (const Fault& fault) {
-        if (m_inTransaction || !fault.isConnectionLoss())
+        if (m_inTransaction || wait.isGivenUp() || !fault.isConnectionLoss())
             throw;
     }
     return fetch(sql);
@@ -144,6 +132,7 @@ Result Connection::fetch(const QString& sql) {
 }
 
 qint64 Connection::execute(const QString& sql) {
+    const Wait wait(*this, Wait::Phase::Answering);
     send(sql);
     if (MYSQL_RES* rows = mysql_store_result(m_session.get()))
         mysql_free_result(rows);

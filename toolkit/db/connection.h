@@ -12,6 +12,9 @@ struct st_mysql;
 
 namespace db {
 
+class StatementWatch;
+enum class Encryption;
+
 struct ConnectionSettings {
     QString host;
     quint16 port = 3306;
@@ -20,11 +23,12 @@ struct ConnectionSettings {
     QString database;
 };
 
-/// How long a connection waits. Connecting is a matter of seconds, a long report may take minutes.
+/// How long a connection waits.
 struct Waits {
     std::chrono::seconds connect{5};
-    std::chrono::seconds read{600};
-    std::chrono::seconds write{60};
+    /// Silence after which a second session asks whether the server is still at work, again and again. While it is,
+    /// there is no limit; where it is not, the statement ends after at most twice this time and one connect.
+    std::chrono::seconds quiet{10};
 };
 
 /// One session with the server. It opens itself at the first statement and again when the server has gone away: a
@@ -41,6 +45,10 @@ public:
     void configure(ConnectionSettings settings, Waits waits = {});
     [[nodiscard]] const ConnectionSettings& settings() const { return m_settings; }
 
+    /// Told of every statement that keeps its caller waiting; must outlive the last of them.
+    void setWatch(StatementWatch* watch) { m_watch = watch; }
+
+    /// Refuses a server on which texts in statements would not be safe.
     void open();
     void close();
     [[nodiscard]] bool isOpen() const { return m_session != nullptr; }
@@ -60,7 +68,17 @@ private:
         void operator()(st_mysql* session) const;
     };
 
-    void applySessionDefaults();
+    class Wait;
+    class Onlooker;
+    /// What a second session sees of this one.
+    enum class Sign { AtWork, Idle, Gone, Silent, Unknown };
+
+    void connect(Encryption encryption);
+    [[nodiscard]] int write(const QByteArray& utf8);
+    [[nodiscard]] qulonglong sessionNumber() const;
+    void openSecond(Connection& second, Onlooker& onlooker) const;
+    [[nodiscard]] Sign lookFromOutside() const;
+    [[nodiscard]] bool killStatement() const;
     void openAsNeeded(const QString& sql);
     void send(const QString& sql);
     [[nodiscard]] Result fetch(const QString& sql);
@@ -70,6 +88,10 @@ private:
     ConnectionSettings m_settings;
     Waits m_waits;
     std::unique_ptr<st_mysql, Close> m_session;
+    QString m_server; ///< tells the server of the session from others
+    StatementWatch* m_watch = nullptr;
+    Wait* m_wait = nullptr;  ///< of the statement that is under way
+    bool m_isSecond = false; ///< opened beside a session that waits
     qint64 m_statements = 0;
     bool m_inTransaction = false;
 };

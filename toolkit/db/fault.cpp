@@ -19,13 +19,11 @@ QString Fault::details() const {
 bool Fault::isConnectionLoss() const {
     constexpr unsigned serverShutdown = 1053;
     constexpr unsigned connectionKilled = 1927;
-    const bool clientLibrary = m_code >= 2000 && m_code < 3000;
-    return m_whileOpening || clientLibrary || m_code == serverShutdown || m_code == connectionKilled;
+    return m_whileOpening || isOfLibrary() || m_code == serverShutdown || m_code == connectionKilled;
 }
 
 bool Fault::stopsWork() const {
-    constexpr unsigned interrupted = 1317;
-    return isConnectionLoss() || m_code == interrupted;
+    return isConnectionLoss() || isInterrupted();
 }
 
 bool Fault::isConflict() const {

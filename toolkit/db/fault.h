@@ -7,6 +7,8 @@ namespace db {
 /// A statement or a connect that failed. Carries what the server or the client library said.
 class Fault final : public fault::Fault {
 public:
+    static constexpr unsigned interrupted = 1317;
+
     /// code: the server's or the client library's number (0 where this program found the fault itself);
     /// sqlState: five characters; message: as the server words it; statement: the text that failed, may be empty.
     Fault(unsigned code, QString sqlState, const QString& message, QString statement);
@@ -15,6 +17,10 @@ public:
     [[nodiscard]] QString details() const override;
 
     [[nodiscard]] unsigned code() const { return m_code; }
+    /// Said by the client library: the server was not reached, or did not answer.
+    [[nodiscard]] bool isOfLibrary() const { return m_code >= 2000 && m_code < 3000; }
+    /// Somebody has ended the statement; the server and the session are well.
+    [[nodiscard]] bool isInterrupted() const { return m_code == interrupted; }
     [[nodiscard]] const QString& sqlState() const { return m_sqlState; }
     [[nodiscard]] const QString& statement() const { return m_statement; }
 

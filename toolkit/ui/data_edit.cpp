@@ -59,7 +59,7 @@ void DataDateEdit::bind(data::DataSet& set, const QString& field) {
     m_field = field;
     followSet(set, this, &DataDateEdit::showValue);
     connect(this, &QDateEdit::dateChanged, this,
-            [this](const QDate& date) { runHandler(window(), [&] { m_set->editValue(m_field, date); }); });
+            [this](const QDate& date) { runHandler(window(), [this, date] { m_set->editValue(m_field, date); }); });
     showValue();
 }
 

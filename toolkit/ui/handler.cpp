@@ -1,9 +1,13 @@
 #include "toolkit/ui/handler.h"
 
+#include "toolkit/db/fault.h"
 #include "toolkit/ui/message_dialog.h"
 
 void showFault(QWidget* screen, const std::exception& fault) {
-    MessageDialog dialog(MessageKind::Error, nullptr);
+    // A statement that somebody has stopped is nothing to be alarmed at.
+    const auto* refused = dynamic_cast<const db::Fault*>(&fault);
+    const bool isStopped = refused && refused->isInterrupted();
+    MessageDialog dialog(isStopped ? MessageKind::Information : MessageKind::Error, nullptr);
     dialog.setButtonCount(1);
     // Nobody can translate what the server or the library says, so the title names the program and no language.
     dialog.setCaption(QStringLiteral("Orvane Payroll"));
