@@ -94,7 +94,7 @@ void Messages::storeText(const Message& message) {
         m_session.ADOCom_update_lang.execute(QStringLiteral("delete from tvk_message ") + key);
         return;
     }
-    const QString text = quotedSqlText(message.text);
+    const QString text = EscapeSqlText(message.text);
     m_session.sql_cek_lang.openSql(QStringLiteral("select * from tvk_message ") + key);
     if (!m_session.sql_cek_lang.isEmpty())
         m_session.ADOCom_update_lang.execute(QStringLiteral("update tvk_message set ") + column + u'=' + text + u' ' +

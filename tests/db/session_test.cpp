@@ -1,7 +1,8 @@
 #include "tests/support/test_database.h"
+#include "toolkit/db/session_setup.h"
+#include "toolkit/db/statement_watch.h"
 #include "toolkit/db/transaction.h"
 
-#include <QElapsedTimer>
 #include <gtest/gtest.h>
 
 #include <optional>
@@ -148,16 +149,61 @@ TEST_F(Session, ATransactionIsGivenUpWholeWithItsSession) {
     EXPECT_EQ(m_database.rows(u"select n from hitung"_qs), QStringList({u"4"_qs, u"6"_qs}));
 }
 
-TEST(Waits, EndAConnectAndAReadThatNobodyAnswers) {
+/// Gives up at the third call, after it has tried a statement of its own.
+struct Impatient final : db::StatementWatch {
+    explicit Impatient(db::Connection& waits) : connection(waits) {}
+    Wish waiting() override {
+        EXPECT_THROW((void)connection.query(u"select 1"_qs), db::Fault) << "no statement inside another";
+        return ++calls < 3 ? Wish::GoOn : Wish::Cancel;
+    }
+    void ended() override { calls = 0; }
+    QString cancelled() const override { return u"Dibatalkan"_qs; }
+
+    db::Connection& connection;
+    int calls = 0;
+};
+
+TEST_F(Session, AStatementCanBeCancelledWhileItIsAwaitedAndWhileItsRowsArrive) {
+    Impatient watch(m_connection);
+    const qint64 id = sessionId();
+    m_connection.setWatch(&watch);
+    for (const QString& sql : {u"select sleep(100)"_qs, u"insert into hitung select sleep(100)"_qs,
+                               u"select repeat('x', 9000), sleep(seq>9) from seq_1_to_100"_qs}) {
+        try {
+            m_connection.execute(sql);
+            ADD_FAILURE() << sql.toStdString();
+        } catch (const db::Fault& fault) {
+            EXPECT_TRUE(fault.isInterrupted()) << fault.what();
+            EXPECT_STREQ(fault.what(), "Dibatalkan");
+        }
+        EXPECT_EQ(watch.calls, 0) << "told of the end";
+        EXPECT_EQ(sessionId(), id) << "the session goes on";
+    }
+    EXPECT_EQ(counted(), QStringList{u"0"_qs});
+}
+
+TEST(Waits, EndWithAConnectThatNobodyAnswersAndNotWhileTheServerIsAtWork) {
+    const db::Waits waits{.connect = std::chrono::seconds(1), .quiet = std::chrono::seconds(1)};
     db::ConnectionSettings settings = testServer();
     settings.port = silentPort();
     db::Connection connection;
-    connection.configure(settings, {.connect = std::chrono::seconds(1)});
-    QElapsedTimer clock;
-    clock.start();
+    connection.configure(settings, waits);
     EXPECT_THROW(connection.open(), db::Fault);
-    connection.configure(testServer(), {.quiet = std::chrono::seconds(1)});
-    EXPECT_THROW((void)connection.query(u"select sleep(20)"_qs), db::Fault);
-    EXPECT_LT(clock.elapsed(), 8000);
-    EXPECT_EQ(connection.query(u"select 1"_qs).rowCount(), 1) << "the next statement opens a new session";
+    connection.configure(testServer(), waits);
+    EXPECT_EQ(connection.query(u"select sleep(3)"_qs).rowCount(), 1);
+}
+
+TEST(SessionValues, AreRefusedWhereTextsWouldNotBeSafe) {
+    const std::pair<db::SessionValues, const char*> cases[] = {
+        {{u"utf8mb4"_qs, u"utf8mb4"_qs, u"utf8mb4"_qs, {}}, ""},
+        {{u"utf8"_qs, u"utf8mb3"_qs, u"utf8mb4"_qs, u"NO_ENGINE_SUBSTITUTION"_qs}, ""},
+        {{u"gbk"_qs, u"utf8mb4"_qs, u"utf8mb4"_qs, {}}, "the session's character set is gbk instead of utf8mb4"},
+        {{u"utf8mb4"_qs, u"big5"_qs, u"utf8mb4"_qs, {}}, "the session's character set is big5 instead of utf8mb4"},
+        {{u"utf8mb4"_qs, u"utf8mb4"_qs, {}, {}}, "the session's character set is  instead of utf8mb4"},
+        {{u"utf8mb4"_qs, u"utf8mb4"_qs, u"utf8mb4"_qs, u"ANSI_QUOTES"_qs}, "the session's mode holds ANSI_QUOTES"},
+        {{u"utf8mb4"_qs, u"utf8mb4"_qs, u"utf8mb4"_qs, u"STRICT_ALL_TABLES,NO_BACKSLASH_ESCAPES"_qs},
+         "the session's mode holds NO_BACKSLASH_ESCAPES"},
+    };
+    for (const auto& [values, fault] : cases)
+        EXPECT_EQ(db::unsafeIn(values).toStdString(), fault);
 }

@@ -10,7 +10,7 @@ click btn_userlog
 click btn_buka
 click btn_hapus
 answer 4
-input "It's \"done\" "
+input "It's \"done\" in C:\\new "
 click btn_hapus
 click btn_hapus
 #: rows-app select message_id, com_form, indonesia, english from tvk_message order by com_form

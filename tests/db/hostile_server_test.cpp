@@ -1,0 +1,190 @@
+// Servers that one cannot trust: set up for another character set, stopped in the middle, or after the password.
+#include "tests/support/test_database.h"
+#include "toolkit/text/sql_text.h"
+
+#include <QProcess>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <thread>
+
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+namespace {
+
+QByteArray output(const QString& program, const QStringList& arguments) {
+    QProcess process;
+    process.start(program, arguments);
+    EXPECT_TRUE(process.waitForFinished(60'000) && process.exitCode() == 0) << process.readAllStandardError().data();
+    return process.readAllStandardOutput();
+}
+
+/// A server of the test's own with TLS, in a character set in which a backslash may be half a letter.
+class ForeignServer final {
+public:
+    ForeignServer() {
+        const QString file = m_folder.path() + u"/tls.pem"_qs;
+        output(u"openssl"_qs, {u"req"_qs, u"-x509"_qs, u"-newkey"_qs, u"rsa:2048"_qs, u"-nodes"_qs, u"-subj"_qs,
+                               u"/CN=test"_qs, u"-keyout"_qs, file, u"-out"_qs, file + u".crt"_qs});
+        tool(u"start"_qs,
+             {u"ssl-key="_qs + file, u"ssl-cert="_qs + file + u".crt"_qs, u"character-set-client-handshake=OFF"_qs,
+              u"character-set-server=gbk"_qs, u"collation-server=gbk_chinese_ci"_qs, u"init-connect=set names gbk"_qs});
+        const QString env = QString::fromLatin1(tool(u"env"_qs, {}));
+        const auto value = [&](const QString& name) {
+            return env.section(u"ORVANE_DB_"_qs + name + u'=', 1).section(u'\n', 0, 0);
+        };
+        settings = {value(u"HOST"_qs), value(u"PORT"_qs).toUShort(), value(u"USER"_qs), value(u"PASSWORD"_qs), {}};
+        process = tool(u"status"_qs, {}).split(' ').value(2).chopped(1).toInt();
+    }
+    ~ForeignServer() {
+        kill(process, SIGCONT);
+        tool(u"stop"_qs, {});
+    }
+
+    db::ConnectionSettings settings;
+    pid_t process = 0;
+
+private:
+    QByteArray tool(const QString& action, const QStringList& options) {
+        QStringList arguments{action, u"--dir"_qs, m_folder.path()};
+        for (const QString& option : options)
+            arguments << u"--server-option="_qs + option;
+        return output(QStringLiteral(SERVER_TOOL), arguments);
+    }
+
+    QTemporaryDir m_folder;
+};
+
+constexpr char password[] = "kata-sandi-rahasia";
+
+/// Greets everybody, asks whoever answers to prove the password in another way, and keeps what it hears.
+class PasswordThief final {
+public:
+    struct Ways {
+        const char* greeting;
+        const char* asked;
+        bool offersTls; ///< and breaks off where it is taken
+        int proof;      ///< bytes that prove the password, 0 where the client refuses
+    };
+
+    explicit PasswordThief(const Ways& ways) : m_ways(ways) {
+        ::listen(m_listener, 4);
+        m_thread = std::thread([this] {
+            for (int socket; (socket = ::accept(m_listener, nullptr, nullptr)) >= 0; ::close(socket))
+                talk(socket);
+        });
+    }
+    ~PasswordThief() {
+        finish();
+        ::close(m_listener);
+    }
+
+    /// Before one looks at what was heard.
+    void finish() {
+        ::shutdown(m_listener, SHUT_RDWR);
+        if (m_thread.joinable())
+            m_thread.join();
+    }
+
+    [[nodiscard]] quint16 port() const {
+        sockaddr_in address{};
+        socklen_t size = sizeof address;
+        ::getsockname(m_listener, reinterpret_cast<sockaddr*>(&address), &size);
+        return ntohs(address.sin_port);
+    }
+
+    QByteArray heard;
+    qsizetype proof = 0;
+
+private:
+    void talk(int socket) {
+        static const QByteArray end(1, '\0');
+        const char* capabilities = m_ways.offersTls ? "098a" : "0982";
+        const QByteArray scramble(20, 's');
+        say(socket, 0,
+            "\x0a"
+            "8.0" +
+                end + QByteArray(4, '\1') + scramble.left(8) + end + QByteArray::fromHex(capabilities) +
+                QByteArray::fromHex("2d0200080015") + QByteArray(10, '\0') + scramble.mid(8) + end + m_ways.greeting +
+                end);
+        constexpr int requestForTls = 32;
+        const QByteArray answer = hear(socket);
+        if (answer.isEmpty() || answer[0] == requestForTls)
+            return;
+        const bool isLong = qstrcmp(m_ways.asked, "client_ed25519") == 0;
+        say(socket, 2, "\xfe" + QByteArray(m_ways.asked) + end + (isLong ? QByteArray(32, 's') : scramble + end));
+        proof = qMax<qsizetype>(0, hear(socket).size() - 4);
+    }
+    static void say(int socket, char number, const QByteArray& body) {
+        const QByteArray packet = QByteArray(1, char(body.size())) + QByteArray(2, '\0') + number + body;
+        ::send(socket, packet.data(), std::size_t(packet.size()), MSG_NOSIGNAL);
+    }
+    QByteArray hear(int socket) {
+        char bytes[4096];
+        const QByteArray said(bytes, qMax<qsizetype>(0, ::recv(socket, bytes, sizeof bytes, 0)));
+        heard += said;
+        return said;
+    }
+
+    const Ways m_ways;
+    const int m_listener = ::socket(AF_INET, SOCK_STREAM, 0);
+    std::thread m_thread;
+};
+
+} // namespace
+
+TEST(AServerAfterThePassword, GetsProofsOfItOnly) {
+    const PasswordThief::Ways cases[] = {
+        {"mysql_native_password", "mysql_clear_password", false, 0},
+        {"mysql_clear_password", "mysql_clear_password", false, 0},
+        {"mysql_native_password", "dialog", false, 0},
+        {"mysql_native_password", "sha256_password", false, 0},
+        {"caching_sha2_password", "mysql_native_password", false, 20},
+        {"mysql_native_password", "caching_sha2_password", false, 32},
+        {"mysql_native_password", "client_ed25519", false, 64},
+        {"mysql_native_password", "client_ed25519", true, 64},
+    };
+    for (const PasswordThief::Ways& ways : cases) {
+        PasswordThief thief(ways);
+        db::Connection connection;
+        connection.configure({u"127.0.0.1"_qs, thief.port(), u"penggaji"_qs, QString::fromLatin1(password), {}});
+        EXPECT_THROW(connection.open(), db::Fault);
+        thief.finish();
+        EXPECT_FALSE(thief.heard.contains(password)) << ways.greeting << ' ' << ways.asked;
+        EXPECT_EQ(thief.proof, ways.proof) << ways.greeting << ' ' << ways.asked;
+    }
+}
+
+TEST(AForeignServer, StoresTextsAsTheyAreIsSpokenToInSecretAndNoticedWhenItStops) {
+    ForeignServer server;
+    db::Connection owner;
+    owner.configure(server.settings);
+    owner.execute(u"create database gaji character set utf8mb4"_qs);
+    owner.execute(u"create table gaji.run(name varchar(100))"_qs);
+    // What the server runs for each new session it runs for ordinary users only.
+    owner.execute(u"grant all on gaji.* to biasa identified by 'biasa'"_qs);
+    server.settings.user = server.settings.password = u"biasa"_qs;
+    db::Connection connection;
+    connection.configure(server.settings, {.connect = std::chrono::seconds(1), .quiet = std::chrono::seconds(1)});
+    EXPECT_FALSE(TestDatabase::rows(connection, u"show session status like 'Ssl_cipher'"_qs).first().endsWith(u'\t'));
+
+    // Read as gbk, half of the letter takes the first backslash along, and the second one frees the quote.
+    const QString name = u"Gaji 中\\'), (database()) -- ü"_qs;
+    connection.execute(u"insert into gaji.run values("_qs + EscapeSqlText(name) + u')');
+    EXPECT_EQ(TestDatabase::rows(connection, u"select name from gaji.run"_qs), QStringList{name});
+    const QString large(3'000'000, u'x');
+    EXPECT_EQ(TestDatabase::rows(connection, u"select length('%1')"_qs.arg(large)), QStringList{u"3000000"_qs});
+
+    kill(server.process, SIGSTOP);
+    try {
+        (void)connection.query(u"select 1"_qs);
+        ADD_FAILURE() << "a stopped server answers";
+    } catch (const db::Fault& fault) {
+        EXPECT_STREQ(fault.what(), "The server has stopped answering");
+    }
+    kill(server.process, SIGCONT);
+    EXPECT_EQ(connection.query(u"select 1"_qs).rowCount(), 1);
+}
