@@ -117,9 +117,9 @@ bool Tfrm_warning::eventFilter(QObject* watched, QEvent* event) {
 void Tfrm_warning::grip(const QMouseEvent& event) {
     if (event.button() != Qt::LeftButton)
         return;
-    // Some window systems let no program place its windows and move them by themselves; the pointer's way is then
-    // theirs.
-    m_grip.reset();
-    if (!windowHandle()->startSystemMove())
-        m_grip = event.globalPosition().toPoint() - pos();
+    // This window system lets no program place its windows and moves them by itself. With the others two would move it.
+    if (QGuiApplication::platformName().startsWith(QLatin1String("wayland")))
+        windowHandle()->startSystemMove();
+    else
+        m_grip = m_ui->Image2->mapTo(this, event.position().toPoint());
 }
