@@ -1,5 +1,6 @@
 #include "toolkit/platform/host.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QProcess>
 
@@ -17,7 +18,8 @@ namespace {
 /// this user no network of its own.
 std::string isolatedPing(const char* mode) {
     QProcess process;
-    process.start(QStringLiteral(ISOLATED_PING), {QString::fromLatin1(mode)});
+    process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/isolated_ping"),
+                  {QString::fromLatin1(mode)});
     process.waitForFinished();
     constexpr int notPossible = 77;
     return process.exitCode() == notPossible ? "not possible" : process.readAllStandardOutput().trimmed().toStdString();

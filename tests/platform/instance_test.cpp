@@ -26,7 +26,7 @@ class Instances : public testing::Test {
 protected:
     Instances() {
         QDir(m_root.path()).mkdir(QStringLiteral("a"));
-        QFile::copy(QStringLiteral(INSTANCE_PROGRAM), m_program);
+        QFile::copy(QCoreApplication::applicationDirPath() + QStringLiteral("/instance_program"), m_program);
         QFile::link(m_program, m_link);
     }
 

@@ -1,6 +1,7 @@
 #include "tests/support/test_database.h"
 
 #include "frame/settings_file/settings_file.h"
+#include "tools/company/generate.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -55,6 +56,10 @@ private:
     QString m_log;
 };
 
+QString programBeside(const QString& name) {
+    return QCoreApplication::applicationDirPath() + u'/' + name;
+}
+
 TestDatabase& database() {
     static TestDatabase shared;
     return shared;
@@ -74,7 +79,8 @@ settings::DatabaseSettings good() {
 class Installed final {
 public:
     Installed() {
-        std::filesystem::create_hard_link(PROGRAM, m_folder.filePath(u"payroll"_qs).toStdString());
+        std::filesystem::create_hard_link(programBeside(u"orvane-payroll"_qs).toStdString(),
+                                          m_folder.filePath(u"payroll"_qs).toStdString());
         write(good());
     }
 
@@ -198,6 +204,63 @@ TEST(Start, AnApplicationDatabaseOutOfReachLeavesARunningFrame) {
     const auto process = program.start();
     EXPECT_TRUE(process->says(u"fault"_qs)) << process->log();
     EXPECT_EQ(process->end(3'000), std::nullopt) << process->log();
+}
+
+namespace {
+
+/// A user of the databases who may do what the README's lines grant, and no more.
+struct GrantedUser {
+    explicit GrantedUser(TestDatabase& company) : m_company(company) {
+        QFile readme(QStringLiteral(README));
+        EXPECT_TRUE(readme.open(QIODevice::ReadOnly));
+        QString lines = QString::fromUtf8(readme.readAll());
+        lines.replace(u"orvane_app."_qs, company.appSettings().database + u'.');
+        lines.replace(u"orvane."_qs, company.mainSettings().database + u'.');
+        lines.replace(u"payroll@'%'"_qs, name + u"@'%'"_qs);
+        for (const QString& line : lines.split(u'\n'))
+            if (line.startsWith(u"    CREATE USER") || line.startsWith(u"    GRANT"))
+                company.run(line);
+    }
+    ~GrantedUser() { m_company.run(u"drop user "_qs + name); }
+
+    const QString name = u"granted_"_qs + QString::number(QCoreApplication::applicationPid());
+
+private:
+    TestDatabase& m_company;
+};
+
+} // namespace
+
+TEST(Grants, ThatTheReadmeTellsSufficeFromTheStartToASavedAndADeletedRun) {
+    company::Options options;
+    options.employees = 5;
+    options.months = 1;
+    options.lastMonth = QDate(2026, 10, 1);
+    TestDatabase company(options);
+    const GrantedUser user(company);
+    const QTemporaryDir folder;
+    settings::DatabaseSettings file = good();
+    file.user = user.name;
+    file.password = u"SECRET"_qs;
+    file.database = company.mainSettings().database;
+    settings::writeSettingsFile(folder.filePath(u"user.tvk"_qs), file);
+    QFile script(folder.filePath(u"script"_qs));
+    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
+    script.write("start\nclick btn_cari\nclick Image2\nclick btn_tambah\ntype dbe_nama Oktober\n"
+                 "set dbtp_tgl_aw 2026-10-01\nset dbtp_tgl_akh 2026-10-31\nclick btn_select_all\n"
+                 "click btn_select_all2\nclick btn_proses\nclick btn_simpan\nset dtp_tgl_aw 2026-10-01\n"
+                 "click btn_cari\ntick dbg_m #1\nclick btn_edit\nclick btn_hitung\nclick btn_simpan\ntick dbg_m #1\n"
+                 "answer 1\nclick btn_hapus\n");
+    script.close();
+    Started robot(programBeside(u"robot"_qs),
+                  {u"--dir"_qs, folder.path(), u"--user"_qs, u"budi"_qs, script.fileName()});
+    EXPECT_EQ(robot.end(), 0) << robot.log();
+    EXPECT_EQ(robot.log().find("fault"), std::string::npos) << robot.log();
+    EXPECT_EQ(company.rows(u"select log_note from user_log where login_id='budi'"_qs).join(u'|').toStdString(),
+              "Isian Perhitungan Gaji [Data Baru] - Insert - [Oktober, 2026-10-01 -- 2026-10-31]|"
+              "Isian Perhitungan Gaji [Ubah Data] - Update - [Oktober, 2026-10-01 -- 2026-10-31]|"
+              "PROSES PERHITUNGAN GAJI - Hapus [Oktober, 2026-10-01 -- 2026-10-31]");
+    EXPECT_EQ(company.rows(u"select * from z_pay_process_d"_qs), QStringList());
 }
 
 int main(int argc, char** argv) {
