@@ -160,7 +160,7 @@ TEST(Start, PingsAnAddressButNoNameAndIsNotBlockedByAKilledProgram) {
     program.write(named);
     const auto byName = program.start();
     EXPECT_TRUE(byName->says(running)) << byName->log();
-    EXPECT_EQ(byName->log().find("ping"), std::string::npos);
+    EXPECT_EQ(byName->log().find("ping \""), std::string::npos);
 }
 
 TEST(Start, WrongSettingsEndInSilence) {
