@@ -46,10 +46,10 @@ void Robot::startProgram() {
     m_program.reset();
     m_program = std::make_unique<window::Program>(m_environment);
     const bool started = m_program->start();
+    print(started ? QStringLiteral("started") : QStringLiteral("refused"));
     // A window manager takes its time; a person waits for the frame too.
     if (started)
         (void)QTest::qWaitFor([] { return QApplication::activeWindow() != nullptr; }, patience);
-    print(started ? QStringLiteral("started") : QStringLiteral("refused"));
 }
 
 /// What holds everything behind it: a panel over a running statement until it is cancelled, a menu or list that is
