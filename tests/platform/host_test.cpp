@@ -76,6 +76,7 @@ TEST(PingSocket, WorksOverEitherKindOfSocketOrTheInstalledPingAndGivesADeadAddre
     EXPECT_EQ(isolatedPing("raw"), "answered");
     EXPECT_EQ(isolatedPing("datagram"), "answered");
     EXPECT_EQ(isolatedPing("refused"), "answered");
+    EXPECT_EQ(isolatedPing("deaf"), "silent");
     EXPECT_EQ(isolatedPing("missing"), "Unable to get ping handle");
     QElapsedTimer timer;
     timer.start();

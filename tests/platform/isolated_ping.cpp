@@ -55,6 +55,10 @@ bool hidePing() {
            ::mount("/dev/null", "/usr/bin/ping", nullptr, MS_BIND, nullptr) == 0;
 }
 
+bool ignoreEchoes() {
+    return writeFile("/proc/sys/net/ipv4/icmp_echo_ignore_all", "1");
+}
+
 // A new network allows datagram sockets to nobody, so that they are the case to ask for.
 bool prepare(const std::string& mode) {
     if (!isolate())
@@ -63,19 +67,20 @@ bool prepare(const std::string& mode) {
         return writeFile("/proc/sys/net/ipv4/ping_group_range", "0 0") && dropCapabilities();
     if (mode == "missing" && !hidePing())
         return false;
-    return (mode != "refused" && mode != "missing") || dropCapabilities();
+    if (mode == "deaf" && !ignoreEchoes())
+        return false;
+    return (mode != "refused" && mode != "missing" && mode != "deaf") || dropCapabilities();
 }
 
 /// From here on nobody answers, but one reply that came too late still waits in the socket.
 bool silence(platform::PingSocket& ping) {
-    return !ping.PingHost(address, std::chrono::milliseconds(0)) &&
-           writeFile("/proc/sys/net/ipv4/icmp_echo_ignore_all", "1");
+    return !ping.PingHost(address, std::chrono::milliseconds(0)) && ignoreEchoes();
 }
 
 } // namespace
 
-// isolated_ping raw|datagram|refused|missing|silent: pings its loopback where only the named kind of socket may be had,
-// where none may be had, where the installed program is missing too, or where nobody answers.
+// isolated_ping raw|datagram|refused|missing|deaf|silent: pings its loopback where only the named kind of socket may be
+// had, where none may be had, where the installed program is missing too or gets no answer, or where nobody answers.
 // isolated_ping run COMMAND...: runs the command there.
 int main(int argc, char** argv) {
     const std::string mode = argc >= 2 ? argv[1] : "";

@@ -196,6 +196,16 @@ TEST(Start, ADamagedOrMissingSettingsFileEndsInSilence) {
     program.expectSilentEnd();
 }
 
+TEST(Start, WithoutADisplayASentenceIsSaid) {
+    const Installed program;
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    qputenv("DISPLAY", "nowhere");
+    const auto process = program.start();
+    EXPECT_EQ(process->end(), 1);
+    EXPECT_TRUE(process->says(u"There is no display"_qs)) << process->log();
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
 TEST(Start, AnApplicationDatabaseOutOfReachLeavesARunningFrame) {
     const Installed program;
     settings::DatabaseSettings alone = good();
