@@ -26,15 +26,20 @@ echo a computation that loses its connection, or is cancelled, leaves the lines 
 #: main create function killed() returns int begin kill connection_id(); return 1; end;
 #:+ create function cancelled() returns int begin kill query connection_id(); return 1; end;
 #:+ rename table z_pay_money to away;
+#:+ insert into z_pay_grp_com (com_id, grp_id, no_urut_ref, use_kode_if, use_sum, use_kode_sum, id_kode_sum) values (50, 1, 9, -1, -1, 0, 17);
 #:+ create view z_pay_money as select * from away where killed()
 tick dbg_grp kode_grp=HRN
 click btn_select_all2
 click btn_proses
 #: main create or replace view z_pay_money as select * from away where cancelled()
 click btn_proses
-grid dbg_d
 #: main drop view z_pay_money;
 #:+ rename table away to z_pay_money
+#: app create function killed() returns int begin kill connection_id(); return 1; end;
+#:+ rename table global_setting to away;
+#:+ create view global_setting as select concat(killed()) as param_id, '0' as param_value
+click btn_proses
+grid dbg_d
 click btn_simpan
 forms
 #: rows select * from z_pay_process_d

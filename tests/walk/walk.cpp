@@ -1,0 +1,171 @@
+// Walks through a robot script with a mishap at each statement, and looks what became of the saved runs.
+//
+//     walk ROBOT SCRIPT.robot [--every K]
+//
+// The script saves a run in a company that has one already (runs.sql beside the script). First it runs undisturbed;
+// then, for every K-th statement that it sends (each by default) and every kind of mishap, it runs again from the same
+// start. After each walk the runs in the tables must be the old ones or the new ones, whole. Where they are the old
+// ones the screen must have said so, and where they are the new ones the form must be closed, unless it said that the
+// end is not known.
+
+#include "tests/support/test_database.h"
+#include "tests/walk/proxy.h"
+
+#include "frame/settings_file/settings_file.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <cstdio>
+#include <stdexcept>
+
+namespace {
+
+using namespace Qt::StringLiterals;
+
+constexpr auto patience = std::chrono::seconds(90);
+
+constexpr const char* mishaps[] = {"cut before", "cut after", "deadlock", "stall", "gone"};
+
+QString readFile(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        throw std::runtime_error("cannot read " + path.toStdString());
+    return QString::fromUtf8(file.readAll());
+}
+
+/// The company, the program in front of it, and the proxy between them.
+class Walk final {
+public:
+    Walk(const QString& robot, const QString& script) :
+        m_robot(robot), m_script(script), m_runs(readFile(QFileInfo(script).path() + u"/runs.sql"_s)) {
+        const QString shared = QFileInfo(script).path() + u"/../register/"_s;
+        m_database.runApp(readFile(shared + u"app.sql"_s));
+        m_database.run(readFile(shared + u"company.sql"_s));
+        const db::ConnectionSettings& server = m_database.mainSettings();
+        settings::writeSettingsFile(m_folder.filePath(u"user.tvk"_s), {.user = server.user,
+                                                                       .server = u"localhost"_s,
+                                                                       .password = server.password,
+                                                                       .database = server.database,
+                                                                       .port = m_proxy.serverPort()});
+    }
+
+    /// Every mishap at every so many statements; gives the number of walks that went wrong.
+    int all(int every) {
+        run({});
+        const int statements = m_proxy.plan.seen;
+        m_new = stored();
+        if (m_new == m_old || m_output.contains("message ") || m_output.contains("error:"))
+            throw std::runtime_error("the script fails by itself:\n" + m_output.toStdString());
+        int walks = 0, wrong = 0;
+        for (const Mishap mishap : {Mishap::CutBefore, Mishap::CutAfter, Mishap::Deadlock, Mishap::Stall, Mishap::Gone})
+            // Each kind begins elsewhere, so that together they meet more of the statements.
+            for (int statement = 1 + int(mishap) * 3 % every; statement <= statements; statement += every, ++walks)
+                wrong += isRight({mishap, statement}) ? 0 : 1;
+        std::printf("%d statements, %d walks, %d wrong; stored %d, refused %d, smaller %d\n", statements, walks, wrong,
+                    m_stored, m_refused, m_smaller);
+        return wrong;
+    }
+
+private:
+    bool isRight(const Plan& plan) {
+        run(plan);
+        const std::string wrong = whatIsWrong(plan.mishap);
+        if (!wrong.empty())
+            std::printf("%s at statement %d: %s\n%s%s\n\n", mishaps[int(plan.mishap)], plan.statement, wrong.c_str(),
+                        m_output.constData(), qPrintable(stored()));
+        return wrong.empty();
+    }
+
+    std::string whatIsWrong(Mishap mishap) {
+        const QString runs = stored();
+        const bool isOpen = m_output.contains("frm_isian_hitung_gaji \"");
+        if (runs == m_old) {
+            ++m_refused;
+            return m_output.contains("message ") || m_output.contains("error:") || m_output.contains("refused")
+                       ? ""
+                       : "nothing is stored, and nobody says so";
+        }
+        // A read that is refused, not lost, costs what hangs on it, as it always did.
+        const bool isSmaller = runs != m_new;
+        if (isSmaller && (mishap != Mishap::Deadlock || !contradictions().isEmpty()))
+            return "the runs are neither the old nor the new ones";
+        ++(isSmaller ? m_smaller : m_stored);
+        return isOpen && !m_output.contains("message_id[6]") ? "stored, yet the form is still open" : "";
+    }
+
+    void run(const Plan& plan) {
+        m_database.run(m_runs);
+        m_old = stored();
+        m_proxy.plan = plan;
+        QProcess robot;
+        robot.setProcessChannelMode(QProcess::MergedChannels);
+        robot.setWorkingDirectory(m_folder.path());
+        QEventLoop loop;
+        QObject::connect(&robot, &QProcess::finished, &loop, &QEventLoop::quit);
+        QTimer::singleShot(patience, &robot, &QProcess::kill);
+        robot.start(m_robot, {u"--user"_s, u"hrd"_s, u"--now"_s, u"2026-11-05 08:15"_s, m_script});
+        loop.exec();
+        m_output = robot.readAll();
+        if (robot.exitStatus() != QProcess::NormalExit || (robot.exitCode() != 0 && robot.exitCode() != 2))
+            throw std::runtime_error("the program ended badly:\n" + m_output.toStdString());
+    }
+
+    /// All saved runs as text.
+    QString stored() {
+        QStringList rows;
+        for (const QString& table : {u"m order by process_id"_s, u"d order by process_id, no_urut"_s,
+                                     u"sd order by process_id, no_urut, no_urut_ref"_s})
+            rows += m_database.rows(u"select * from z_pay_process_"_s + table);
+        return rows.join(u'\n');
+    }
+
+    /// Totals that do not agree with what they are made of, and lines and rows that hang in the air.
+    QStringList contradictions() {
+        return m_database.rows(
+            u"select 'run', process_id from z_pay_process_m as m where tot_process<>(select ifnull(sum(tot_payroll), "
+            u"0) "
+            "from z_pay_process_d as d where d.process_id=m.process_id) union all "
+            "select 'line', process_id from z_pay_process_d as d where tot_payroll<>ifnull((select "
+            "sum(if(c.type=0, 1, -1)*subtot_payroll) from z_pay_process_sd as sd inner join z_pay_com as c on "
+            "sd.com_id=c.com_id where sd.process_id=d.process_id and sd.no_urut=d.no_urut), 0) "
+            "or not exists (select 1 from z_pay_process_m as m where m.process_id=d.process_id) union all "
+            "select 'row', process_id from z_pay_process_sd as sd where not exists "
+            "(select 1 from z_pay_process_d as d where d.process_id=sd.process_id and d.no_urut=sd.no_urut)"_s);
+    }
+
+    const QString m_robot;
+    const QString m_script;
+    const QString m_runs; ///< brings the saved runs back to the start
+    const QTemporaryDir m_folder;
+    TestDatabase m_database;
+    Proxy m_proxy{testServer().port};
+    QString m_old;
+    QString m_new;
+    QByteArray m_output;
+    int m_stored = 0;
+    int m_refused = 0;
+    int m_smaller = 0;
+};
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    const QStringList words = QCoreApplication::arguments();
+    const qsizetype every = words.indexOf(u"--every"_s);
+    try {
+        if (words.size() < 3)
+            throw std::runtime_error("usage: walk ROBOT SCRIPT.robot [--every K]");
+        Walk walk(QFileInfo(words[1]).absoluteFilePath(), QFileInfo(words[2]).absoluteFilePath());
+        return walk.all(every < 0 ? 1 : words.value(every + 1).toInt()) == 0 ? 0 : 1;
+    } catch (const std::exception& fault) {
+        std::fprintf(stderr, "%s\n", fault.what());
+        return 1;
+    }
+}
