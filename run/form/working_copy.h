@@ -61,8 +61,8 @@ public:
     [[nodiscard]] Sums sums() const;
 
     /// Writes header, lines and rows in one transaction. A new run whose number was taken meanwhile takes the next
-    /// one, and nothing is left of what else stands under its number. Throws db::Fault; nothing is stored then, and all
-    /// that the copies hold is saved by the next call.
+    /// one, and nothing is left of what else stands under its number. What is refused or lost is thrown in the server's
+    /// words; nothing is stored then, and all that the copies hold is saved by the next call.
     [[nodiscard]] Saved save();
     /// The change on account of which save() gave ChangedElsewhere.
     [[nodiscard]] const StoredRun& foreignChange() const { return m_foreign; }

@@ -1,12 +1,12 @@
 // Walks through a robot script with a mishap at each statement, and looks what became of the saved runs.
 //
-//     walk ROBOT SCRIPT.robot [--every K]
+//     walk ROBOT SCRIPT.robot [EVERY]
 //
 // The script saves a run in a company that has one already (runs.sql beside the script). First it runs undisturbed;
-// then, for every K-th statement that it sends (each by default) and every kind of mishap, it runs again from the same
-// start. After each walk the runs in the tables must be the old ones or the new ones, whole. Where they are the old
-// ones the screen must have said so, and where they are the new ones the form must be closed, unless it said that the
-// end is not known.
+// then, for each statement that it sends (or each seventh, with 7 for EVERY) and every kind of mishap, it runs again
+// from the same start. After each walk the runs in the tables must be the old ones or the new ones, whole. The form
+// must have closed over the new ones only; over the old ones it must have said so, and over the new ones it may stay
+// open only where it said that the end is not known.
 
 #include "tests/support/test_database.h"
 #include "tests/walk/proxy.h"
@@ -84,19 +84,19 @@ private:
 
     std::string whatIsWrong(Mishap mishap) {
         const QString runs = stored();
+        const bool isStuck = m_output.contains("error:");
         const bool isOpen = m_output.contains("frm_isian_hitung_gaji \"");
         if (runs == m_old) {
             ++m_refused;
-            return m_output.contains("message ") || m_output.contains("error:") || m_output.contains("refused")
-                       ? ""
-                       : "nothing is stored, and nobody says so";
+            const bool isTold = isStuck || (isOpen && m_output.contains("message "));
+            return isTold ? "" : "nothing is stored, and nobody says so";
         }
         // A read that is refused, not lost, costs what hangs on it, as it always did.
         const bool isSmaller = runs != m_new;
         if (isSmaller && (mishap != Mishap::Deadlock || !contradictions().isEmpty()))
             return "the runs are neither the old nor the new ones";
         ++(isSmaller ? m_smaller : m_stored);
-        return isOpen && !m_output.contains("message_id[6]") ? "stored, yet the form is still open" : "";
+        return (isOpen || isStuck) && !m_output.contains("message_id[6]") ? "stored, yet the form is still open" : "";
     }
 
     void run(const Plan& plan) {
@@ -128,9 +128,8 @@ private:
     /// Totals that do not agree with what they are made of, and lines and rows that hang in the air.
     QStringList contradictions() {
         return m_database.rows(
-            u"select 'run', process_id from z_pay_process_m as m where tot_process<>(select ifnull(sum(tot_payroll), "
-            u"0) "
-            "from z_pay_process_d as d where d.process_id=m.process_id) union all "
+            u"select 'run', process_id from z_pay_process_m as m where tot_process<>(select "
+            "ifnull(sum(tot_payroll), 0) from z_pay_process_d as d where d.process_id=m.process_id) union all "
             "select 'line', process_id from z_pay_process_d as d where tot_payroll<>ifnull((select "
             "sum(if(c.type=0, 1, -1)*subtot_payroll) from z_pay_process_sd as sd inner join z_pay_com as c on "
             "sd.com_id=c.com_id where sd.process_id=d.process_id and sd.no_urut=d.no_urut), 0) "
@@ -158,12 +157,12 @@ private:
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QStringList words = QCoreApplication::arguments();
-    const qsizetype every = words.indexOf(u"--every"_s);
     try {
-        if (words.size() < 3)
-            throw std::runtime_error("usage: walk ROBOT SCRIPT.robot [--every K]");
+        const int every = words.value(3, u"1"_s).toInt();
+        if (words.size() < 3 || every < 1)
+            throw std::runtime_error("usage: walk ROBOT SCRIPT.robot [EVERY]");
         Walk walk(QFileInfo(words[1]).absoluteFilePath(), QFileInfo(words[2]).absoluteFilePath());
-        return walk.all(every < 0 ? 1 : words.value(every + 1).toInt()) == 0 ? 0 : 1;
+        return walk.all(every) == 0 ? 0 : 1;
     } catch (const std::exception& fault) {
         std::fprintf(stderr, "%s\n", fault.what());
         return 1;
