@@ -61,6 +61,8 @@ public:
         connect(&m_client, &QTcpSocket::disconnected, &m_server, &QTcpSocket::disconnectFromHost);
         connect(&m_server, &QTcpSocket::disconnected, &m_client, &QTcpSocket::disconnectFromHost);
         m_server.connectToHost(QHostAddress(QHostAddress::LocalHost), serverPort);
+        for (QTcpSocket* side : {&m_client, &m_server})
+            side->setSocketOption(QAbstractSocket::LowDelayOption, 1);
     }
 
 private:

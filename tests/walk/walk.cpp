@@ -60,7 +60,7 @@ public:
         run({});
         const int statements = m_proxy.plan.seen;
         m_new = stored();
-        if (m_new == m_old || m_output.contains("message ") || m_output.contains("error:"))
+        if (m_new == m_old || m_output.contains("message ") || m_output.contains("error: line"))
             throw std::runtime_error("the script fails by itself:\n" + m_output.toStdString());
         int walks = 0, wrong = 0;
         for (const Mishap mishap : {Mishap::CutBefore, Mishap::CutAfter, Mishap::Deadlock, Mishap::Stall, Mishap::Gone})
@@ -84,7 +84,7 @@ private:
 
     std::string whatIsWrong(Mishap mishap) {
         const QString runs = stored();
-        const bool isStuck = m_output.contains("error:");
+        const bool isStuck = m_output.contains("error: line");
         const bool isOpen = m_output.contains("frm_isian_hitung_gaji \"");
         if (runs == m_old) {
             ++m_refused;
