@@ -17,14 +17,6 @@ using Grain = FigureRead::Grain;
 
 constexpr double noRow = std::numeric_limits<double>::quiet_NaN();
 
-CountSettings readCountSettings(db::Connection& main) {
-    CountSettings settings;
-    db::Result rows = main.query(u"select sum_id, sum_as from sum_report"_s);
-    while (rows.next())
-        settings.insert(int(rows.integer(0)), int(rows.integer(1)));
-    return settings;
-}
-
 /// The first part that has a row for an employee and day counts; 0 where none has.
 Reading<FigureValues> joined(const std::vector<const Reading<FigureValues>*>& parts) {
     return readingOf([&] {
@@ -49,7 +41,9 @@ std::map<FigureRead, Reading<FigureValues>> FigureReader::read(const std::set<Fi
     std::map<FigureRead, Reading<FigureValues>> figures;
     if (wanted.empty())
         return figures;
-    m_settings = readingOf([&] { return readCountSettings(m_main); });
+    m_counts = readingOf([&] { return readCountSettings(m_main); });
+    m_done();
+    m_holidays = readingOf([&] { return readHolidayTimes(m_main, m_period); });
     m_done();
     for (const Grain grain : {Grain::Period, Grain::Day}) {
         std::vector<Part> parts = partsOf(wanted, grain);
@@ -65,18 +59,21 @@ std::map<FigureRead, Reading<FigureValues>> FigureReader::read(const std::set<Fi
 
 std::vector<FigureReader::Part> FigureReader::partsOf(const std::set<FigureRead>& wanted, Grain grain) {
     std::vector<Part> parts;
-    const CountSettings settings = m_settings.fault() ? CountSettings() : m_settings.value();
+    const BulkSettings settings{m_counts.fault() ? CountSettings() : m_counts.value(),
+                                m_holidays.fault() ? HolidayTimes() : m_holidays.value()};
     for (const FigureRead& read : wanted) {
         if (read.grain != grain)
             continue;
         const Figure& figure = *findFigure(read.id_kode_report);
-        // Where the settings cannot be read, the figures that depend on them cannot either.
-        const bool settled = figure.countSwitch.sum_id == 0 || !m_settings.fault();
         for (const FigurePart& part : figure.parts) {
-            if (!settled)
-                parts.push_back({read, {}, Reading<FigureValues>(m_settings.fault())});
+            // What cannot be read takes along the figures that depend on it.
+            const std::exception_ptr lost = figure.countSwitch.sum_id != 0 && m_counts.fault() ? m_counts.fault()
+                                            : part.holidays != Holidays::Any                   ? m_holidays.fault()
+                                                                                               : nullptr;
+            if (lost)
+                parts.push_back({read, {}, Reading<FigureValues>(lost)});
             else if (read.form == FigureRead::Form::Kehadiran)
-                parts.push_back({read, dayColumn(part), {}});
+                parts.push_back({read, dayColumn(part, settings.holidays), {}});
             else
                 parts.push_back({read, bulkColumn(figure, part, settings), {}});
         }

@@ -36,7 +36,8 @@ private:
     const Window m_period;
     const QHash<int, int>& m_places;
     const std::function<void()> m_done;
-    Reading<CountSettings> m_settings;
+    Reading<CountSettings> m_counts;
+    Reading<HolidayTimes> m_holidays;
 };
 
 } // namespace run

@@ -100,6 +100,27 @@ QString joined(const Figure& figure, QString (*select)(const Figure&, const Figu
     return u" left join (%1) as %2 on e.emp_id_auto=%2.emp_id_auto"_s.arg(parts.join(" union all "_L1), alias);
 }
 
+/// How often the date of a row is entered as a public holiday, NULL where it is none. The dates are written out: a join
+/// by a date that may hold a time of day finds no index.
+QString timesOf(const FigurePart& part, const HolidayTimes& holidays) {
+    QString cases;
+    for (const auto& [day, times] : holidays.asKeyValueRange())
+        cases += u" when %1 then %2"_s.arg(day).arg(times);
+    return cases.isEmpty() ? u"null"_s : u"case TO_DAYS(%1)%2 end"_s.arg(dateColumn(*part.table), cases);
+}
+
+/// The part with each row taken as often as its holidays want it.
+BulkColumn columnOf(const FigurePart& part, QString expression, const HolidayTimes& holidays) {
+    QString conditions = part.conditions;
+    if (part.holidays == Holidays::Except)
+        conditions += u" and (%1) is null"_s.arg(timesOf(part, holidays));
+    if (part.holidays == Holidays::Only && expression.startsWith("count"_L1))
+        expression = u"sum({%1})"_s.arg(timesOf(part, holidays));
+    else if (part.holidays == Holidays::Only)
+        expression.replace(u"}"_s, u"*(%1)}"_s.arg(timesOf(part, holidays)));
+    return {&part, conditions, expression};
+}
+
 QString switchedColumn(const QString& days, const QString& amount, const QString& settings, int sum_as) {
     return u"if(%1.sum_as=%2, %3, %4)"_s.arg(settings).arg(sum_as).arg(days, amount);
 }
@@ -145,53 +166,52 @@ QString statementForEmployee(const Figure& figure) {
            settingsJoins(figure) + u" where e.emp_id_auto=:emp_id_auto ) as rekapitulasi"_s + order;
 }
 
-BulkColumn bulkColumn(const Figure& figure, const FigurePart& part, const CountSettings& settings) {
+BulkColumn bulkColumn(const Figure& figure, const FigurePart& part, const BulkSettings& settings) {
     const auto inDays = [&](const CountSwitch& by) {
-        return by.sum_id == 0 || (settings.contains(by.sum_id) && settings[by.sum_id] == by.sum_as);
+        return by.sum_id == 0 || (settings.counts.contains(by.sum_id) && settings.counts[by.sum_id] == by.sum_as);
     };
     if (!isFreeHours(figure))
-        return inDays(figure.countSwitch) ? dayColumn(part) : BulkColumn{&part, ownConditions(part), part.amount};
-    const auto chosen = [&](const CountSwitch& by) -> QString { return inDays(by) ? part.days : part.amount; };
-    return {&part, ownConditions(part),
-            u"if(fr.shift_ot=-1, %1, %2)"_s.arg(chosen(overtimeSwitch), chosen(attendanceSwitch))};
+        return inDays(figure.countSwitch) ? dayColumn(part, settings.holidays)
+                                          : columnOf(part, part.amount, settings.holidays);
+    // The days are counted without the settings, the amounts once for each.
+    const QString days = u"%1/greatest(1,(select count(*) from free_ot where begin_time<>-1))"_s.arg(part.days);
+    const auto chosen = [&](const CountSwitch& by) { return inDays(by) ? days : QString(part.amount); };
+    return columnOf(part, u"if(fr.shift_ot=-1, %1, %2)"_s.arg(chosen(overtimeSwitch), chosen(attendanceSwitch)),
+                    settings.holidays);
 }
 
-BulkColumn dayColumn(const FigurePart& part) {
-    return {&part, ownConditions(part), part.days, true};
+BulkColumn dayColumn(const FigurePart& part, const HolidayTimes& holidays) {
+    BulkColumn column = columnOf(part, part.days, holidays);
+    column.inDays = true;
+    return column;
 }
 
 bool shareStatement(const BulkColumn& a, const BulkColumn& b) {
-    // Rows that a join with the holidays doubles cannot stand beside rows that it does not.
-    return a.part->table == b.part->table &&
-           (a.part->holidays == Holidays::Only) == (b.part->holidays == Holidays::Only);
+    return a.part->table == b.part->table;
 }
 
 QString statementForAll(const std::vector<BulkColumn>& columns, Grouping grouping, const QString& employees) {
-    const FigurePart& first = *columns.front().part;
-    const AttendanceTable& table = *first.table;
+    const AttendanceTable& table = *columns.front().part->table;
     const QString employee = column(table, "emp_id_auto"_L1);
     const QString date = dateColumn(table);
     const bool byDay = grouping == Grouping::ByEmployeeAndDay;
     QString values;
+    int number = 0;
     for (const BulkColumn& wanted : columns) {
         const QString value = filled(wanted.expression, wanted.conditions);
         // A sum over no row is NULL by itself, a count is not.
-        values += wanted.expression.startsWith("count"_L1) ? u", nullif(%1, 0)"_s.arg(value) : u", "_s + value;
+        const bool isCount = wanted.expression.startsWith("count"_L1);
+        values += u", %1 as c%2"_s.arg(isCount ? u"nullif(%1, 0)"_s.arg(value) : value).arg(++number);
     }
+    // The employees come first and the dates are compared bare, so that an index over both is used; DATE() around a
+    // column would hide it.
     QStringList conditions{u"%1>=:tanggal_awal and %1<:tanggal_akhir"_s.arg(date)};
     if (!table.conditions.isEmpty())
         conditions << table.conditions;
-    // Employees and holidays come first and the dates of attendance are compared bare, so that an index over both is
-    // used; DATE() around a column would hide it.
-    const bool onHolidays = first.holidays == Holidays::Only;
-    const QString holidays =
-        u" inner join (select DATE(holiday_date) as holiday_date from holiday where %1) as h"_s.arg(
-            window(u"holiday_date"_s));
     return u"select straight_join %1, %2 as hari"_s.arg(employee,
                                                         byDay ? u"DATEDIFF(%1, :tanggal_awal)"_s.arg(date) : u"0"_s) +
-           values + u" from (%1) as anggota"_s.arg(employees) + (onHolidays ? holidays : QString()) +
-           u" inner join %1 on %2=anggota.emp_id_auto"_s.arg(from(table), employee) +
-           (onHolidays ? u" and %1=h.holiday_date"_s.arg(date) : QString()) + table.setting + u" where "_s +
+           values + u" from (%1) as anggota"_s.arg(employees) +
+           u" inner join %1 on %2=anggota.emp_id_auto"_s.arg(from(table), employee) + table.setting + u" where "_s +
            conditions.join(" and "_L1) + u" group by "_s + employee + (byDay ? u", hari"_s : QString());
 }
 

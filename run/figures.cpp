@@ -13,10 +13,9 @@ using namespace Qt::StringLiterals;
 constexpr AttendanceTable shiftResult{"shift_result"_L1, "sr"_L1, "shift_date"_L1, "sr.valid=0"_L1, ""_L1};
 constexpr AttendanceTable dateTemp{"date_temp"_L1, "dt"_L1, "date_temp"_L1, ""_L1, ""_L1};
 constexpr AttendanceTable exAbsent{"ex_absent"_L1, "ex"_L1, "tgl_awal"_L1, ""_L1, ""_L1};
-// Of several settings the one with the lowest key counts; -1 is none.
+// -1 is no setting. Each of several ones takes every row once more.
 constexpr AttendanceTable freeHours{"free_ot_result_m"_L1, "m"_L1, "free_date"_L1, ""_L1,
-                                    " left join free_ot as fr on fr.begin_time<>-1"
-                                    " and fr.begin_time=(select min(begin_time) from free_ot where begin_time<>-1)"_L1};
+                                    " left join free_ot as fr on fr.begin_time<>-1"_L1};
 
 FigurePart durations(QLatin1String conditions, Holidays holidays = Holidays::Any) {
     return {&shiftResult, conditions, "round(sum({sr.duration}),2)"_L1, "count({sr.duration})"_L1, holidays};
@@ -32,7 +31,7 @@ FigurePart statuses(QLatin1String conditions, Holidays holidays = Holidays::Any)
 }
 
 FigurePart activities(QLatin1String conditions) {
-    return {&exAbsent, conditions, "round(sum({ex.sum_result}),2)"_L1, "count({ex.sum_result})"_L1, Holidays::Any};
+    return {&exAbsent, conditions, "round(sum({ex.sum_result}),2)"_L1, "count({ex.absent_id})"_L1, Holidays::Any};
 }
 
 std::vector<Figure> shiftFigures() {

@@ -155,6 +155,25 @@ LoanPayment readLoanPayment(const db::Result& row) {
             row.real(u"jml_angsuran"_s)};
 }
 
+CountSettings readCountSettings(db::Connection& main) {
+    CountSettings settings;
+    db::Result rows = main.query(u"select sum_id, sum_as from sum_report"_s);
+    while (rows.next())
+        settings.insert(int(rows.integer(0)), int(rows.integer(1)));
+    return settings;
+}
+
+HolidayTimes readHolidayTimes(db::Connection& main, const Window& window) {
+    HolidayTimes holidays;
+    db::Result rows = main.query(
+        u"select TO_DAYS(holiday_date) as hari, count(*) from holiday where DATE(holiday_date)>=DATE('%1') and "
+        "DATE(holiday_date)<DATE('%2') group by hari"_s.arg(day(window.tanggal_awal),
+                                                            day(window.tanggal_akhir.addDays(1))));
+    while (rows.next())
+        holidays.insert(int(rows.integer(0)), int(rows.integer(1)));
+    return holidays;
+}
+
 Hadir100 readHadir100(db::Connection& app) {
     Hadir100 counts;
     readFlag(app, setting::hadir100Hadir, counts.hadir);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "run/assembly.h"
+#include "run/figure_statements.h"
 #include "toolkit/db/connection.h"
 
 #include <QString>
@@ -38,6 +39,9 @@ namespace run {
 [[nodiscard]] QString loansStatement(const Selections& selections, int emp_id_auto);
 [[nodiscard]] QString allLoansStatement(const Selections& selections);
 [[nodiscard]] LoanPayment readLoanPayment(const db::Result& row);
+
+[[nodiscard]] CountSettings readCountSettings(db::Connection& main);
+[[nodiscard]] HolidayTimes readHolidayTimes(db::Connection& main, const Window& window);
 
 /// The settings of full attendance, each read by itself; one that is missing or no number keeps its default. Throws
 /// db::Fault where the connection is lost or a statement cancelled.

@@ -1,5 +1,7 @@
 #include "frame/window/recap.h"
 
+#include "run/statements.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -55,8 +57,9 @@ constexpr RecapFigure figures[] = {
 };
 
 run::BulkColumn columnOf(const run::Figure& figure, const run::FigurePart& part, Rule rule,
-                         const run::CountSettings& settings) {
-    run::BulkColumn column = rule == Rule::InDays ? run::dayColumn(part) : run::bulkColumn(figure, part, settings);
+                         const run::BulkSettings& settings) {
+    run::BulkColumn column =
+        rule == Rule::InDays ? run::dayColumn(part, settings.holidays) : run::bulkColumn(figure, part, settings);
     const bool ofEveryRow = rule == Rule::EveryRow || rule == Rule::EveryRowOrPresentDays;
     if (ofEveryRow && !column.inDays)
         column.conditions.clear();
@@ -80,23 +83,12 @@ public:
         return u"t%1.c%2"_s.arg(number).arg(columns.size());
     }
 
-    /// "t0(...) as (...), t1 ..."
-    [[nodiscard]] QString definitions(const QString& employees) const {
-        QStringList tables;
-        for (std::size_t i = 0; i < m_tables.size(); ++i) {
-            QString names = u"emp_id_auto, hari"_s;
-            for (std::size_t column = 1; column <= m_tables[i].size(); ++column)
-                names += u", c%1"_s.arg(column);
-            tables << u"t%1(%2) as (%3)"_s.arg(i).arg(
-                names, run::statementForAll(m_tables[i], run::Grouping::ByEmployee, employees));
-        }
-        return tables.join(u",\n"_s);
-    }
-
-    [[nodiscard]] QString joins() const {
+    /// Of the employees in `employees`, a select of emp_id_auto, to those of k.
+    [[nodiscard]] QString joins(const QString& employees) const {
         QString joins;
         for (std::size_t i = 0; i < m_tables.size(); ++i)
-            joins += u" left join t%1 on t%1.emp_id_auto=k.emp_id_auto"_s.arg(i);
+            joins += u"\nleft join (%1) as t%2 on t%2.emp_id_auto=k.emp_id_auto"_s.arg(
+                run::statementForAll(m_tables[i], run::Grouping::ByEmployee, employees), QString::number(i));
         return joins;
     }
 
@@ -104,7 +96,7 @@ private:
     std::vector<std::vector<run::BulkColumn>> m_tables;
 };
 
-QString valueOf(const RecapFigure& wanted, const run::CountSettings& settings, Tables& tables) {
+QString valueOf(const RecapFigure& wanted, const run::BulkSettings& settings, Tables& tables) {
     const run::Figure& figure = *run::findFigure(wanted.id_kode_report);
     QStringList parts;
     for (const run::FigurePart& part : figure.parts)
@@ -113,7 +105,7 @@ QString valueOf(const RecapFigure& wanted, const run::CountSettings& settings, T
     return sum + u" as "_s + wanted.column;
 }
 
-constexpr char16_t employees[] = uR"(select * from (
+constexpr char16_t fromEmployees[] = uR"(from (
     select e.emp_id_auto, e.pin, e.nik, e.emp_status, e.cab_id_auto, e.dept_id_auto, e.func_id_auto,
         c.cab_name, d.level_id, d.dept_name, f.func_name, e.address, e.phone, e.ssn,
         concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama,
@@ -123,31 +115,27 @@ constexpr char16_t employees[] = uR"(select * from (
         left join dept as d on e.dept_id_auto=d.dept_id_auto
         left join func as f on e.func_id_auto=f.func_id_auto) as e )";
 
-run::CountSettings readSettings(db::Connection& connection) {
-    run::CountSettings settings;
-    db::Result rows = connection.query(u"select sum_id, sum_as from sum_report"_s);
-    while (rows.next())
-        settings.insert(int(rows.integer(0)), int(rows.integer(1)));
-    return settings;
-}
-
 } // namespace
 
-QString statement(const QString& condition, const run::CountSettings& settings) {
+QString statement(const QString& condition, const run::BulkSettings& settings) {
     Tables tables;
     QStringList values;
     for (const RecapFigure& figure : figures)
         values << valueOf(figure, settings, tables);
-    // The condition narrows the employees first, so that a search for a few of them reads the days of those few only.
-    return u"with karyawan as ("_s + QString::fromUtf16(employees) + condition + u"),\n"_s +
-           tables.definitions(u"select emp_id_auto from karyawan"_s) + u"\nselect distinct k.*, "_s +
-           values.join(u", "_s) + u" from karyawan as k"_s + tables.joins() +
+    const QString from = QString::fromUtf16(fromEmployees) + condition;
+    // The condition stands in each table, so that a search for a few employees reads the days of those few only; named
+    // once in front, the tables would need a younger server.
+    return u"select distinct k.*, "_s + values.join(u", "_s) + u" from (select * "_s + from + u") as k"_s +
+           tables.joins(u"select emp_id_auto "_s + from) +
            // The key settles what the other two leave open, so that a search gives the same order each time.
            u" order by col_str, col_num, emp_id_auto "_s;
 }
 
 std::unique_ptr<data::SqlQuery> open(db::Connection& connection, const Question& question) {
-    auto query = std::make_unique<data::SqlQuery>(connection, statement(question.condition, readSettings(connection)));
+    const run::BulkSettings settings{
+        run::readCountSettings(connection),
+        run::readHolidayTimes(connection, {question.tanggal_awal, question.tanggal_akhir})};
+    auto query = std::make_unique<data::SqlQuery>(connection, statement(question.condition, settings));
     query->setParameter(u"tanggal_awal"_s, question.tanggal_awal);
     query->setParameter(u"tanggal_akhir"_s, question.tanggal_akhir.addDays(1));
     query->open();

@@ -27,6 +27,6 @@ struct Question {
 [[nodiscard]] std::unique_ptr<data::SqlQuery> open(db::Connection& connection, const Question& question);
 
 /// The statement behind it, with the parameters :tanggal_awal and :tanggal_akhir, the latter exclusive.
-[[nodiscard]] QString statement(const QString& condition, const run::CountSettings& settings);
+[[nodiscard]] QString statement(const QString& condition, const run::BulkSettings& settings);
 
 } // namespace recap

@@ -17,7 +17,11 @@ namespace {
 /// A started frame on the company for a user with the per-user value.
 struct Started {
     Started(const SmallCompany& company, const QString& value) :
-        menu(folder.path(), company.services.session.clock, [value](const QString&) { return value; }) {
+        menu(folder.path(), company.services.session.clock, [value](const QString&) {
+            if (value == u"!")
+                throw std::runtime_error("cannot be read");
+            return value;
+        }) {
         company.database.writeSettingsFile(folder.path());
         if (!menu.FormCreate())
             qFatal("no session");
@@ -45,6 +49,7 @@ TEST(SessionBranch, StandsBehindTheFirstColonOfThePerUserValue) {
         bool limited;
         const char* branch;
         int employees;
+        const char* fault = "";
     };
     const Case cases[] = {{"", false, "", 5},
                           {"  ", false, "", 5},
@@ -53,16 +58,20 @@ TEST(SessionBranch, StandsBehindTheFirstColonOfThePerUserValue) {
                           {"{3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}:1", true, "Pusat", 1},
                           {"x:9", true, "", 0},
                           {"0", true, "", 0},
-                          {"x:tiga", true, "", 0}};
+                          {"x:tiga", true, "", 0, "'tiga' is not a valid integer value"},
+                          {"!", true, "", 0, "cannot be read"}};
     for (const Case& one : cases) {
         Started started(company, QString::fromUtf8(one.value));
-        EXPECT_EQ(started.fault.text.toStdString(),
-                  one.value == std::string("x:tiga") ? "'tiga' is not a valid integer value" : "");
+        EXPECT_EQ(started.fault.text.toStdString(), one.fault) << one.value;
         const auto& lookup_cab = child<LookupBox>(started.menu, u"lookup_cab");
         EXPECT_EQ(lookup_cab.text().toStdString(), one.branch) << one.value;
         EXPECT_NE(lookup_cab.isEnabled(), one.limited) << one.value;
         EXPECT_EQ(started.rowsAfterSearch(), one.employees) << one.value;
     }
+    company.database.runApp(QStringLiteral("drop table global_setting"));
+    Started broken(company, QStringLiteral("3"));
+    EXPECT_NE(broken.fault.text, QString());
+    EXPECT_EQ(broken.rowsAfterSearch(), 3) << "a later step failed";
 }
 
 TEST(CriteriaSearch, FindsUpToTwoHundredTickedEmployees) {

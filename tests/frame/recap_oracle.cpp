@@ -27,17 +27,17 @@ QString rows(const char* table, const char* conditions) {
     return sum("1", table, conditions);
 }
 
-constexpr char shifts[] = "(select *, shift_date as tgl from shift_result where valid=0) as s";
-constexpr char statuses[] = "(select *, date_temp as tgl from date_temp) as s";
-constexpr char activities[] = "(select *, tgl_awal as tgl from ex_absent) as s";
-constexpr char holidayShifts[] =
-    "(select sr.*, shift_date as tgl from shift_result as sr inner join holiday on holiday_date=shift_date "
-    "where valid=0) as s";
-constexpr char holidayStatuses[] =
-    "(select dt.*, date_temp as tgl from date_temp as dt inner join holiday on holiday_date=date_temp) as s";
+constexpr char shifts[] = "(select *, DATE(shift_date) as tgl from shift_result where valid=0) as s";
+constexpr char statuses[] = "(select *, DATE(date_temp) as tgl from date_temp) as s";
+constexpr char activities[] = "(select *, DATE(tgl_awal) as tgl from ex_absent) as s";
+constexpr char holidayShifts[] = "(select sr.*, DATE(shift_date) as tgl from shift_result as sr inner join holiday on "
+                                 "DATE(holiday_date)=DATE(shift_date) "
+                                 "where valid=0) as s";
+constexpr char holidayStatuses[] = "(select dt.*, DATE(date_temp) as tgl from date_temp as dt inner join holiday on "
+                                   "DATE(holiday_date)=DATE(date_temp)) as s";
 
 #define WINDOW "tgl>=:from and tgl<=:to and "
-#define PLAIN_DAY "tgl not in (select holiday_date from holiday where holiday_date>=:from and holiday_date<=:to)"
+#define PLAIN_DAY "tgl not in (select DATE(holiday_date) from holiday)"
 
 Figure present(const char* column, const char* shiftTable, const char* statusTable, const char* more) {
     const QByteArray shift = QByteArray(WINDOW "duration>0 and ") + more;

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace {
 
 /// The whole run, each number with as many digits as tell it from its neighbours.
@@ -73,9 +75,12 @@ TEST_F(Companies, YieldInBulkWhatOneStatementPerLookupYieldsToTheLastDigit) {
     const int first = qEnvironmentVariable("ORVANE_RUN_SEED", QStringLiteral("1")).toInt();
     const int count = qEnvironmentVariable("ORVANE_RUN_COMPANIES", QStringLiteral("200")).toInt();
     qsizetype amounts = 0;
+    QString dateType;
     for (int seed = first; seed < first + count && !HasFailure(); ++seed) {
         SCOPED_TRACE("ORVANE_RUN_SEED=" + std::to_string(seed) + " ORVANE_RUN_COMPANIES=1");
         RandomCompany company{unsigned(seed)};
+        if (company.dateType() != std::exchange(dateType, company.dateType()))
+            m_database.setDateType(dateType);
         fill(company.mainRows(), company.settingRows());
         const run::Selections selections = company.selections();
         const double round_value = company.round_value();

@@ -42,6 +42,7 @@ insert into date_temp (emp_id_auto, date_temp, absent_id, duration, holiday) val
   (9, '2024-01-04', 1, null, 0), (9, '2024-01-06', 1, 8, -1), (9, '2024-01-07', 1, 8, -1);
 insert into ex_absent (emp_id_auto, tgl_awal, absent_id, sum_result) values
   (7, '2024-01-02', 10, 1.5), (7, '2024-01-02', 10, 2), (7, '2024-01-03', 11, 4), (7, '2024-01-03', 12, 0.125),
+  (7, '2024-01-04', 11, null), (7, '2024-01-04', 12, null),
   (7, '2024-01-11', 10, 90), (8, '2024-01-02', 10, 90);
 insert into free_ot_result_m (emp_id_auto, free_date, duration, duration_ot) values
   (7, '2024-01-02', 3, 1), (7, '2024-01-02', 2, 0.5), (7, '2024-01-05', 1, 0), (7, '2024-01-11', 90, 90),
@@ -134,8 +135,8 @@ TEST_F(Figures, FollowTheirOwnSettingAlone) {
         {"sum_as=2 where sum_id=4", u"4=30>5 18=11>2 19=19>3 20=12>2 21=5>1 50=6>3"_s},
         {"sum_as=2 where sum_id=13", u"13=14>5 23=3.5>2 24=7.5>2 25=10>2 26=2.5>1 27=6.5>2 28=4.5>2"_s},
         {"sum_as=3 where sum_id=14", u"14=3.5>2"_s},
-        {"sum_as=3 where sum_id=15", u"15=4>1"_s},
-        {"sum_as=3 where sum_id=16", u"16=0.12>1"_s},
+        {"sum_as=3 where sum_id=15", u"15=4>2"_s},
+        {"sum_as=3 where sum_id=16", u"16=0.12>2"_s},
     };
     for (const auto& [setting, changed] : cases) {
         SCOPED_TRACE(setting);
@@ -161,8 +162,9 @@ TEST_F(Figures, OfFreeHoursFollowTheirSetting) {
         {"(-1, -1)", "", 6}, // only the row that is no setting
         {"(8, 0)", "", 6},
         {"(8, -1)", "", 1.5},
-        {"(8, -1), (9, 0)", "", 1.5},
-        {"(8, 0), (9, -1)", "", 6},
+        {"(8, -1), (9, 0)", "", 3}, // every row once more
+        {"(8, 0), (9, -1)", "", 12},
+        {"(8, -1), (9, 0)", "(4,1),(13,2)", 3},
         {"(8, -1)", "(4,2),(13,1)", 1.5},
         {"(8, -1)", "(4,1),(13,2)", 3},
         {"(8, 0)", "(4,2),(13,1)", 3},

@@ -53,12 +53,15 @@ const QHash<QString, QString> kinds{
     {u"amount"_s, u"none|some|some|some"_s},
     {u"none"_s, u"0|0|-1|null"_s},
     {u"flag"_s, u"0|0|-1|null"_s},
-    {u"day"_s, u"'2024-02-01'|'2024-02-02'|'2024-02-03'|'2024-02-04'|'2024-02-05'|'2024-02-06'"_s},
+    {u"day"_s, u"'2024-02-01'|'2024-02-02'|'2024-02-03'|'2024-02-04'|'2024-02-05'|'2024-02-06'|"
+               "'2024-02-03 23:59:59'|'2024-02-04 07:30'"_s},
 };
 
 } // namespace
 
-RandomCompany::RandomCompany(unsigned seed) : m_random(seed), m_kinds(kinds) {
+// Neighbours are of one kind: changing the columns takes longer than computing a company.
+RandomCompany::RandomCompany(unsigned seed) :
+    m_random(seed), m_dateType(seed / 100 % 2 == 0 ? u"date"_s : u"datetime"_s), m_kinds(kinds) {
     // Amounts in eighths, whose sums meet ties, or with two decimals; mixed, the order of a sum would matter.
     m_kinds[u"some"_s] = seed % 2 == 0 ? u"0..79/8"_s : u"0..1999/100"_s;
 }

@@ -18,6 +18,8 @@ public:
     [[nodiscard]] QString settingRows();
     [[nodiscard]] run::Selections selections();
     [[nodiscard]] double round_value();
+    /// What the date columns of its attendance are.
+    [[nodiscard]] QString dateType() const { return m_dateType; }
     /// A table that the company lacks, or none.
     [[nodiscard]] QString missingTable();
 
@@ -29,5 +31,6 @@ private:
     [[nodiscard]] run::EmployeeChoice ticks();
 
     std::mt19937 m_random;
+    const QString m_dateType;
     QHash<QString, QString> m_kinds; ///< choices by the name that stands for them
 };

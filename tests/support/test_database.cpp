@@ -81,6 +81,13 @@ qint64 TestDatabase::run(db::Connection& connection, const QString& sql) {
     return touched;
 }
 
+void TestDatabase::setDateType(const QString& type) {
+    for (const char* column :
+         {"shift_result modify shift_date", "date_temp modify date_temp", "ex_absent modify tgl_awal",
+          "free_ot_result_m modify free_date", "holiday modify holiday_date"})
+        run(QStringLiteral("alter table %1 %2 not null").arg(QLatin1String(column), type));
+}
+
 QStringList TestDatabase::rows(db::Connection& connection, const QString& sql) {
     QStringList lines;
     db::Result result = connection.query(sql);

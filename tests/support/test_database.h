@@ -32,6 +32,9 @@ public:
     qint64 run(const QString& sql) { return run(m_main, sql); }
     qint64 runApp(const QString& sql) { return run(m_app, sql); }
 
+    /// Makes the date columns of attendance "date" or "datetime": a suite may have either.
+    void setDateType(const QString& type);
+
     /// The answer, one line per row, the values parted by tabs, NULL as "NULL".
     [[nodiscard]] QStringList rows(const QString& sql) { return rows(m_main, sql); }
     [[nodiscard]] QStringList rowsApp(const QString& sql) { return rows(m_app, sql); }
