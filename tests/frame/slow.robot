@@ -14,6 +14,7 @@ choose cmb_filter Nama
 type edt_filter Ani
 #: main rename table cabang to cabang_asli;
 #:+ create view cabang as select * from cabang_asli where sleep(60)=0
+watch
 click btn_cari
 state lbl_tunggu
 click btn_userlog
@@ -21,6 +22,7 @@ key Alt+U
 forms
 click btn_batal_tunggu
 grid dbg_rekap
+watch
 click btn_cari
 key Esc
 click Image2

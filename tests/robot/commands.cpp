@@ -155,6 +155,7 @@ const Actions& actions() {
         {u"report"_qs, {0, 0, [](Robot& r, const Words&) { printAll(textLines(openReport(r))); }}},
         {u"pdf"_qs, {1, 1, [](Robot& r, const Words& w) { saveReport(r, w[0]); }}},
         {u"shot"_qs, {1, 1, [](Robot& r, const Words& w) { shoot(r, w[0]); }}},
+        {u"watch"_qs, {0, 0, [](Robot& r, const Words&) { r.watchNext(); }}},
         {u"wait"_qs, {1, 1, [](Robot&, const Words& w) { QTest::qWait(wholeNumber(w[0])); }}},
         {u"took"_qs, {0, 0, [](Robot& r, const Words&) { Robot::print(u"took %1 ms"_qs.arg(r.lastTook())); }}},
         {u"echo"_qs, {1, anyNumber, [](Robot&, const Words& w) { Robot::print(w.join(u' ')); }}},

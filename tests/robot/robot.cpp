@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QtTest/qtestsystem.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
@@ -52,19 +53,24 @@ void Robot::startProgram() {
         (void)QTest::qWaitFor([] { return QApplication::activeWindow() != nullptr; }, patience);
 }
 
-/// What holds everything behind it: a panel over a running statement until it is cancelled, a menu or list that is
-/// dropped down, else a modal screen.
+/// What holds everything behind it: a menu or list that is dropped down, else a modal screen.
 QWidget* Robot::frontWindow() {
-    for (QWidget* widget : QApplication::allWidgets())
-        if (auto* panel = qobject_cast<WaitPanel*>(widget); panel && panel->isVisible() && !panel->isCancelled())
-            return panel;
     QWidget* popup = QApplication::activePopupWidget();
     return popup ? popup : QApplication::activeModalWidget();
+}
+
+bool Robot::canStopStatement() {
+    return std::ranges::any_of(QApplication::allWidgets(), [](QWidget* widget) {
+        const auto* panel = qobject_cast<WaitPanel*>(widget);
+        return panel && panel->isVisible() && !panel->isCancelled();
+    });
 }
 
 bool Robot::mustWait() const {
     if (m_dialogs.isAnswering())
         return true;
+    if (m_watching && canStopStatement())
+        return false;
     // A command is still at work unless it has put a new window in front of the person.
     QWidget* front = frontWindow();
     return !m_running.empty() && (!front || front == m_running.back() || !front->isVisible());
@@ -118,6 +124,7 @@ void Robot::execute(const QStringList& words) {
     const std::size_t depth = m_running.size();
     carryOut(*this, words);
     settle();
+    m_watching = m_watching && (depth > 1 || words.first() == QLatin1String("watch"));
     // Commands that ran inside this one have their own time; the outer one ended when its screen appeared.
     if (measured && m_running.size() == depth)
         m_lastTook = m_clock.elapsed();

@@ -31,6 +31,8 @@ public:
     [[nodiscard]] QWidget* reachable(const QString& path) { return findReachable(m_forms, path); }
     [[nodiscard]] qint64 lastTook() const { return m_lastTook; }
     void startProgram();
+    /// The next command may be spoken to as soon as it shows that a statement of its takes long.
+    void watchNext() { m_watching = true; }
 
     static void print(const QString& fact);
     /// Handles what stands in the queues, as happens between two actions of a person.
@@ -46,6 +48,7 @@ private:
     void step();
     void finish();
     [[nodiscard]] static QWidget* frontWindow();
+    [[nodiscard]] static bool canStopStatement();
     [[nodiscard]] bool mustWait() const;
     static void closeLeftOpen(QWidget* front);
     void execute(const QStringList& words);
@@ -57,6 +60,7 @@ private:
     std::vector<QWidget*> m_running; // the front window that each command on the stack began under
     QElapsedTimer m_clock;
     qint64 m_lastTook = 0;
+    bool m_watching = false;
     bool m_finished = false;
     std::unique_ptr<window::Program> m_program; // goes first: what follows events is still there then
 };
