@@ -90,7 +90,7 @@ void Connection::send(const QString& sql) {
     const QByteArray utf8 = sql.toUtf8();
     if (write(utf8) != 0) {
         // A command that could not be written whole was not carried out, so one more try on a new session is safe.
-        if (fresh || m_inTransaction || m_wait->isGivenUp())
+        if (fresh || m_inTransaction)
             raise(sql);
         close();
         openAsNeeded(sql);
@@ -115,7 +115,7 @@ Result Connection::query(const QString& sql) {
     try {
         return fetch(sql);
     } catch (const Fault& fault) {
-        if (m_inTransaction || wait.isGivenUp() || !fault.isConnectionLoss())
+        if (m_inTransaction || !fault.isConnectionLoss())
             throw;
     }
     return fetch(sql);

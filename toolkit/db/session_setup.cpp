@@ -57,6 +57,10 @@ void setOptions(st_mysql* session, std::chrono::seconds connect, Encryption encr
     mysql_options(session, MYSQL_OPT_SSL_ENFORCE, &encrypt);
 }
 
+void neverBlock(int socket) {
+    fcntl(socket, F_SETFL, fcntl(socket, F_GETFL) | O_NONBLOCK);
+}
+
 void keepAlive(st_mysql* session) {
     const int socket = int(mysql_get_socket(session));
     const std::pair<int, int> values[] = {{TCP_KEEPIDLE, keepAliveIdle},
@@ -67,8 +71,7 @@ void keepAlive(st_mysql* session) {
     setsockopt(socket, SOL_SOCKET, SO_KEEPALIVE, &on, sizeof on);
     for (const auto& [option, value] : values)
         setsockopt(socket, IPPROTO_TCP, option, &value, sizeof value);
-    // The library hands its waits over only where the socket does not wait by itself; through TLS it would.
-    fcntl(socket, F_SETFL, fcntl(socket, F_GETFL) | O_NONBLOCK);
+    neverBlock(socket);
 }
 
 QString unsafeIn(const SessionValues& values) {

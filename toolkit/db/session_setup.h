@@ -19,6 +19,9 @@ enum class Encryption { WhereOffered, None };
 /// away.
 void setOptions(st_mysql* session, std::chrono::seconds connect, Encryption encryption);
 
+/// The library hands its waits over only where the socket does not wait by itself; through TLS it would.
+void neverBlock(int socket);
+
 /// Makes an open session notice a peer that is gone, within half a minute, also while nothing is sent.
 void keepAlive(st_mysql* session);
 

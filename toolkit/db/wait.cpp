@@ -1,5 +1,6 @@
 #include "toolkit/db/wait.h"
 
+#include "toolkit/db/session_setup.h"
 #include "toolkit/db/statement_watch.h"
 
 #include <mysql.h>
@@ -23,6 +24,8 @@ Connection::Wait::Wait(Connection& connection, Phase phase) :
     m_outcome(m_outer ? m_outer->m_outcome : m_own) {
     if (m_outer && phase == Phase::Answering)
         throw Fault(0, {}, QStringLiteral("The connection still waits for the answer to another statement"), {});
+    if (phase == Phase::Connecting && !m_outcome.cancelled)
+        m_outcome.givenUp.clear();
     s_innermost = connection.m_wait = this;
 }
 
@@ -41,6 +44,8 @@ int Connection::Wait::ready(int socket, char isRead, int) {
     // Outside any wait there is only a farewell to send, which is not worth waiting for.
     if (!s_innermost)
         return 0;
+    if (s_innermost->m_phase == Phase::Connecting)
+        neverBlock(socket);
     // While it writes through TLS the library asks for reading where it means writing.
     const bool isWrite = !isRead || s_innermost->m_phase == Phase::Sending;
     try {

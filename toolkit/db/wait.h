@@ -10,7 +10,8 @@ namespace db {
 /// outermost one, which stands for the statement.
 class Connection::Wait final {
 public:
-    /// Connecting ends after Waits::connect, counted from the beginning.
+    /// Connecting ends after Waits::connect, counted from the beginning, and forgets why a wait for the session before
+    /// was given up; only a person's wish lasts.
     enum class Phase { Connecting, Sending, Answering };
 
     /// Throws Fault where an answer is awaited already: an event that arrived meanwhile wants the same connection.
@@ -24,7 +25,6 @@ public:
 
     /// The fault as it is to be told: in place of the library's words those of whoever ended the wait.
     [[nodiscard]] Fault judged(const Fault& fault) const;
-    [[nodiscard]] bool isGivenUp() const { return !m_outcome.givenUp.isEmpty(); }
     /// The server was asked to end the statement; the session lives on.
     [[nodiscard]] bool isKilled() const { return m_outcome.killed; }
 
@@ -39,6 +39,7 @@ private:
     };
 
     static int ready(int socket, char isRead, int milliseconds);
+    [[nodiscard]] bool isGivenUp() const { return !m_outcome.givenUp.isEmpty(); }
     [[nodiscard]] int await(int socket, short events);
     void tellWatch();
     void look();
