@@ -195,12 +195,9 @@ TEST(Waits, EndWithAConnectThatNobodyAnswersAndNotWhileTheServerIsAtWork) {
 
 TEST(SessionValues, AreRefusedWhereTextsWouldNotBeSafe) {
     const std::pair<db::SessionValues, const char*> cases[] = {
-        {{u"utf8mb4"_qs, u"utf8mb4"_qs, u"utf8mb4"_qs, {}}, ""},
         {{u"utf8"_qs, u"utf8mb3"_qs, u"utf8mb4"_qs, u"NO_ENGINE_SUBSTITUTION"_qs}, ""},
         {{u"gbk"_qs, u"utf8mb4"_qs, u"utf8mb4"_qs, {}}, "the session's character set is gbk instead of utf8mb4"},
         {{u"utf8mb4"_qs, u"big5"_qs, u"utf8mb4"_qs, {}}, "the session's character set is big5 instead of utf8mb4"},
-        {{u"utf8mb4"_qs, u"utf8mb4"_qs, {}, {}}, "the session's character set is  instead of utf8mb4"},
-        {{u"utf8mb4"_qs, u"utf8mb4"_qs, u"utf8mb4"_qs, u"ANSI_QUOTES"_qs}, "the session's mode holds ANSI_QUOTES"},
         {{u"utf8mb4"_qs, u"utf8mb4"_qs, u"utf8mb4"_qs, u"STRICT_ALL_TABLES,NO_BACKSLASH_ESCAPES"_qs},
          "the session's mode holds NO_BACKSLASH_ESCAPES"},
     };

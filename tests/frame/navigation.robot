@@ -1,4 +1,4 @@
-# Workspaces come and go over the recap, which is not read again.
+# Workspaces come and go over the recap, which is not read again; a search that takes long can be stopped.
 #: options --user hrd --now "2026-11-05 08:00"
 #: main insert into cabang values(1, 'Pusat'), (3, 'Cabang D''Or');
 #:+ insert into func values(1, 'Staf'), (2, 'Kepala');
@@ -31,5 +31,24 @@ state pnl_judul
 state pnl_tengah
 get cmb_filter
 grid dbg_rekap
+click btn_cari
+grid dbg_rekap
+#: main rename table cabang to cabang_asli;
+#:+ create view cabang as select * from cabang_asli where sleep(60)=0
+choose cmb_filter Nama
+type edt_filter Budi
+watch
+click btn_cari
+state lbl_tunggu
+click btn_userlog
+key Alt+U
+forms
+click btn_batal_tunggu
+watch
+click btn_cari
+key Esc
+get edt_filter
+grid dbg_rekap
+#: main create or replace view cabang as select * from cabang_asli
 click btn_cari
 grid dbg_rekap

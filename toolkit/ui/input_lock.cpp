@@ -58,6 +58,8 @@ bool InputLock::eventFilter(QObject* watched, QEvent* event) {
     case QEvent::KeyRelease:
     case QEvent::Shortcut:
     case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::InputMethod:
     case QEvent::Close:
         return true;
     default:

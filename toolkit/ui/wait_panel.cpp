@@ -9,7 +9,7 @@ WaitPanel::WaitPanel(const Texts& texts, QWidget* window) :
     setObjectName(QStringLiteral("pnl_tunggu"));
     lbl_tunggu->setObjectName(QStringLiteral("lbl_tunggu"));
     btn_batal_tunggu->setObjectName(QStringLiteral("btn_batal_tunggu"));
-    setFrameShape(QFrame::StyledPanel);
+    setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     setAutoFillBackground(true);
     // A click must not end what is being entered elsewhere.
     btn_batal_tunggu->setFocusPolicy(Qt::NoFocus);
