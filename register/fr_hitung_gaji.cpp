@@ -174,6 +174,20 @@ void Tfrm_hitung_gaji::open_list() {
 void Tfrm_hitung_gaji::open_employees() {
     sql_d.reopen();
     FitGridColumns(*m_ui->dbg_d);
+    show_true_sum();
+}
+
+/// The list of employees repeats those of several groups, so the server adds up.
+void Tfrm_hitung_gaji::show_true_sum() {
+    QString differing;
+    fault::dropFault("jumlah baris sebuah perhitungan", [&] {
+        data::SqlQuery& sql = m_services.session.sql_temp;
+        sql.openSql(QStringLiteral("select sum(tot_payroll) as jumlah from z_pay_process_d where process_id=%1")
+                        .arg(cds_m.integer(u"process_id")));
+        differing = run::differingSum(txt_jumlah_benar.text(), cds_m.real(u"tot_process"), sql.real(u"jumlah"));
+    });
+    m_ui->lbl_jumlah_benar->setText(differing);
+    m_ui->lbl_jumlah_benar->setVisible(!differing.isEmpty());
 }
 
 void Tfrm_hitung_gaji::open_details() {

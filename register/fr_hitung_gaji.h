@@ -55,6 +55,7 @@ private:
     void open_employees();
     void open_details();
     void show_sums(const QString& between);
+    void show_true_sum();
     void delete_current_run();
     /// The runs to print; none, with a message, where none is ticked.
     [[nodiscard]] std::optional<payroll::Request> ticked_runs();
@@ -70,4 +71,5 @@ private:
     data::ClientDataSet cds_m;
     const QString m_baseSql;
     QMenu* pmn_cetak;
+    NamedText txt_jumlah_benar{this, QStringLiteral("txt_jumlah_benar"), QStringLiteral("Jumlah semua baris: ")};
 };

@@ -22,7 +22,8 @@ public:
 private:
     void hitung_karyawan(int grp_id, const Employee& employee);
     void computeComponents(int grp_id, Line& line);
-    void computePeriod(std::span<const Rule> rules, const Component& component, Evaluator& evaluator);
+    static void computePeriod(std::span<const Rule> rules, const Component& component, Evaluator& evaluator,
+                              Line& line);
     void addLoans(Line& line);
     void numberRows(Line& line);
 
@@ -72,7 +73,8 @@ void Assembly::hitung_karyawan(int grp_id, const Employee& employee) {
     line.pin = employee.pin;
     line.nik = employee.nik;
     line.nama = employee.nama;
-    fault::dropFault("komponen selebihnya seorang karyawan", [&] { computeComponents(grp_id, line); });
+    fault::dropFault(
+        "komponen selebihnya seorang karyawan", [&] { computeComponents(grp_id, line); }, NoteFault{line});
     if (m_selections.loans != LoanTest::None)
         fault::dropFault("pinjaman selebihnya seorang karyawan", [&] { addLoans(line); });
     numberRows(line);
@@ -81,24 +83,29 @@ void Assembly::hitung_karyawan(int grp_id, const Employee& employee) {
 }
 
 void Assembly::computeComponents(int grp_id, Line& line) {
-    Evaluator evaluator(m_lookups, m_selections.period, line.emp_id_auto, line.rows);
+    Evaluator evaluator(m_lookups, m_selections.period, line);
     for (const ChosenComponent& chosen : m_vir_tb2) {
         const std::span<const Rule> rules = m_lookups.rules({grp_id, chosen.com_id, line.emp_id_auto});
         if (rules.empty())
             continue;
+        line.isRuled = true;
         const Component component{chosen.com_id, rules.front().com_kode, rules.front().com_name};
         if (rules.front().hitung == 0)
-            computePeriod(rules, component, evaluator);
+            computePeriod(rules, component, evaluator, line);
         else
             evaluator.hitung_perhari(grp_id, component);
     }
 }
 
-void Assembly::computePeriod(std::span<const Rule> rules, const Component& component, Evaluator& evaluator) {
-    fault::dropFault("aturan selebihnya sebuah komponen", [&] {
-        for (const Rule& rule : rules)
-            evaluator.hitung_aturan(rule, component);
-    });
+void Assembly::computePeriod(std::span<const Rule> rules, const Component& component, Evaluator& evaluator,
+                             Line& line) {
+    fault::dropFault(
+        "aturan selebihnya sebuah komponen",
+        [&] {
+            for (const Rule& rule : rules)
+                evaluator.hitung_aturan(rule, component);
+        },
+        NoteFault{line});
 }
 
 void Assembly::addLoans(Line& line) {

@@ -6,8 +6,8 @@
 
 namespace run {
 
-Evaluator::Evaluator(Lookups& lookups, const Window& period, int emp_id_auto, std::vector<Row>& cds_sd) :
-    m_lookups(lookups), m_period(period), m_emp_id_auto(emp_id_auto), m_cds_sd(cds_sd) {}
+Evaluator::Evaluator(Lookups& lookups, const Window& period, Line& line) :
+    m_lookups(lookups), m_period(period), m_line(line), m_emp_id_auto(line.emp_id_auto), m_cds_sd(line.rows) {}
 
 void Evaluator::hitung_aturan(const Rule& rule, const Component& component) {
     Working working = evaluate(rule, m_period);
@@ -35,10 +35,13 @@ void Evaluator::hitung_perhari(int grp_id, const Component& component) {
             continue;
         typex = rules.front().typex;
         param = rules.front().param;
-        fault::dropFault("sisa aturan satu hari", [&] {
-            for (const Rule& rule : rules)
-                hitung_aturan_hari(rule, m_period.tanggal_awal.addDays(day));
-        });
+        fault::dropFault(
+            "sisa aturan satu hari",
+            [&] {
+                for (const Rule& rule : rules)
+                    hitung_aturan_hari(rule, m_period.tanggal_awal.addDays(day));
+            },
+            NoteFault{m_line});
     }
     Money total;
     m_cds_sd.push_back(sumOfDays(component, typex, total));

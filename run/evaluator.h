@@ -16,10 +16,11 @@ struct Component {
 };
 
 /// Turns the rule rows of one employee's components into the rows of his line. The values that later rules can refer
-/// to live as long as the evaluator. Faults of a lookup or of the arithmetic pass through, except inside a day.
+/// to live as long as the evaluator. Faults of a lookup or of the arithmetic pass through, except inside a day, where
+/// the line takes note of them.
 class Evaluator final {
 public:
-    Evaluator(Lookups& lookups, const Window& period, int emp_id_auto, std::vector<Row>& cds_sd);
+    Evaluator(Lookups& lookups, const Window& period, Line& line);
 
     /// One rule row over the whole period, merged into the component's row.
     void hitung_aturan(const Rule& rule, const Component& component);
@@ -62,6 +63,7 @@ private:
 
     Lookups& m_lookups;
     const Window m_period;
+    Line& m_line;
     const int m_emp_id_auto;
     std::vector<Row>& m_cds_sd;
     std::vector<PublishedValue> m_vir_tb3;

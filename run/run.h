@@ -2,6 +2,7 @@
 
 #include <QString>
 
+#include <exception>
 #include <vector>
 
 namespace run {
@@ -30,6 +31,18 @@ struct Line {
     QString nama;
     double tot_payroll = 0;
     std::vector<Row> rows;
+    bool isRuled = false; ///< one of the chosen components has a rule in his group
+    QString fault;        ///< the first thing that kept a component from being computed, in its own words
+};
+
+/// Notes a fault in the line that it costs something, beside what else is told of it.
+struct NoteFault {
+    Line& line;
+
+    void operator()(const char*, const std::exception& fault) const {
+        if (line.fault.isEmpty())
+            line.fault = QString::fromUtf8(fault.what());
+    }
 };
 
 /// A run in memory: its lines in order, and the last number given to a line and to a row.

@@ -2,6 +2,7 @@
 
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/money.h"
+#include "toolkit/text/number_text.h"
 
 #include <algorithm>
 
@@ -82,21 +83,47 @@ double hitung(RunView& view, double round_value) {
     return total;
 }
 
-void hitung2(RunView& view) {
+std::vector<RemovedLine> hitung2(RunView& view) {
+    std::vector<RemovedLine> removed;
     for (int line = view.lineCount() - 1; line >= 0; --line) {
+        bool hasDeductions = false;
         for (int row = view.rowCount(line) - 1; row >= 0; --row)
-            if (view.row(line, row).subtot_payroll <= 0)
+            if (const RowAmount amount = view.row(line, row); amount.subtot_payroll <= 0)
                 view.deleteRow(line, row);
-        if (view.tot_payroll(line) <= 0)
-            view.deleteLine(line);
+            else
+                hasDeductions |= amount.type != 0;
+        if (view.tot_payroll(line) > 0)
+            continue;
+        view.deleteLine(line);
+        removed.push_back({line, hasDeductions});
     }
+    return removed;
 }
 
-void hitung(Run& run, double round_value) {
+std::vector<RemovedLine> hitung(Run& run, double round_value) {
     RunInMemory view(run);
     run.tot_process = hitung(view, round_value);
-    hitung2(view);
+    std::vector<RemovedLine> removed = hitung2(view);
     view.dropDeletedLines();
+    return removed;
+}
+
+std::vector<LeftOut> leftOut(const Run& computed, const std::vector<RemovedLine>& removed) {
+    std::vector<LeftOut> people;
+    for (auto gone = removed.rbegin(); gone != removed.rend(); ++gone) {
+        const Line& line = computed.lines[std::size_t(gone->line)];
+        const WhyLeftOut why = !line.fault.isEmpty() ? WhyLeftOut::Fault
+                               : !line.isRuled       ? WhyLeftOut::NoRule
+                               : gone->hasDeductions ? WhyLeftOut::Deductions
+                                                     : WhyLeftOut::NothingPositive;
+        people.push_back({line.pin, line.nik, line.nama, why, line.fault});
+    }
+    return people;
+}
+
+QString differingSum(const QString& caption, double stored, double sumOfLines) {
+    const QString sum = groupedInteger(sumOfLines);
+    return sum == groupedInteger(stored) ? QString() : caption + sum;
 }
 
 } // namespace run

@@ -31,10 +31,35 @@ public:
 /// total. All in 32 bits that wrap round. A row that is no amount ends its line, a line that fails ends the walk.
 [[nodiscard]] double hitung(RunView& view, double round_value);
 
+/// A line that was deleted for want of a positive amount.
+struct RemovedLine {
+    int line = 0; ///< where it stood before any was deleted
+    bool hasDeductions = false;
+};
+
 /// Deletes rows and lines without a positive amount, from the last line back. The totals stay as they are.
-void hitung2(RunView& view);
+std::vector<RemovedLine> hitung2(RunView& view);
 
 /// Both in turn on a run in memory.
-void hitung(Run& run, double round_value);
+std::vector<RemovedLine> hitung(Run& run, double round_value);
+
+/// Why somebody of the chosen groups has no line in the end; the first that holds.
+enum class WhyLeftOut { Fault, NoRule, Deductions, NothingPositive };
+inline constexpr int whyLeftOutCount = 4;
+
+struct LeftOut {
+    QString pin;
+    QString nik;
+    QString nama;
+    WhyLeftOut why = WhyLeftOut::NothingPositive;
+    QString fault;
+};
+
+/// Who they are, in the order of the run; computed: the run as it was before lines were deleted.
+[[nodiscard]] std::vector<LeftOut> leftOut(const Run& computed, const std::vector<RemovedLine>& removed);
+
+/// The text of what the lines add up to, behind its caption; empty where the stored total shows the same. A total
+/// wraps round at 32 bits, and keeps the amounts of lines that were deleted on its own pass.
+[[nodiscard]] QString differingSum(const QString& caption, double stored, double sumOfLines);
 
 } // namespace run

@@ -198,7 +198,7 @@ void Tfrm_isian_hitung_gaji::siapkan_baru() {
     m_ui->dtp_bulan->setDisplayFormat(QStringLiteral("MMMM yyyy"));
     m_ui->dtp_bulan->setDate(today);
     chb_kreditClick();
-    m_ui->lbl_total->setText(groupedInteger(0));
+    show_total();
     FitGridColumns(*m_ui->dbg_d);
     FitGridColumns(*m_ui->dbg_sd);
     m_ui->dbe_nama->setFocus();
@@ -209,7 +209,7 @@ void Tfrm_isian_hitung_gaji::siapkan_ubah() {
     m_ui->dtp_bulan->setDisplayFormat(QStringLiteral("MMMM yyyy"));
     m_ui->dtp_bulan->setDate(m_services.session.clock().date());
     m_ui->dbe_nama->setFocus();
-    m_ui->lbl_total->setText(groupedInteger(m_copy.cds_m.real(u"tot_process")));
+    show_total();
     m_copy.cds_d.last();
     m_copy.cds_d.first();
     // A run that another station has deleted meanwhile has no header to stamp.
@@ -228,10 +228,9 @@ void Tfrm_isian_hitung_gaji::segarkan_rincian() {
     m_ui->lbl_nama_emp->setText(m_copy.cds_d.text(u"nama"));
 }
 
-run::Notice Tfrm_isian_hitung_gaji::compute() {
+run::Notice Tfrm_isian_hitung_gaji::compute(run::Run& run) {
     BusyScreen busy(m_ui->pnl_proses, m_ui->pgb_proses);
     frame::Session& session = m_services.session;
-    run::Run run;
     const auto show = [&busy](const run::Progress& progress) { busy.showProgress(progress.done, progress.of); };
     const run::Notice notice = run::computeRun(run, selections(), session.ADOConn, session.ADOConn_lang, show);
     // Not before all is read: a computation that stops leaves the lines as they were.
@@ -242,20 +241,26 @@ run::Notice Tfrm_isian_hitung_gaji::compute() {
 
 void Tfrm_isian_hitung_gaji::btn_prosesClick() {
     m_copy.cds_m.settle();
-    const run::Notice notice = compute();
+    run::Run run;
+    const run::Notice notice = compute(run);
     if (notice == run::Notice::NoEmployees)
         m_services.messages.inform(this, tidak_ada_karyawan);
     else if (notice == run::Notice::MoreThan200Employees)
         m_services.messages.inform(this, lebih_200);
-    btn_hitungClick();
+    show_left_out(leftOut(run, hitung()));
 }
 
 void Tfrm_isian_hitung_gaji::btn_hitungClick() {
+    hitung();
+}
+
+std::vector<run::RemovedLine> Tfrm_isian_hitung_gaji::hitung() {
     m_copy.cds_m.settle();
-    m_copy.hitung();
-    m_ui->lbl_total->setText(groupedInteger(m_copy.cds_m.real(u"tot_process")));
+    std::vector<run::RemovedLine> removed = m_copy.hitung();
+    show_total();
     FitGridColumns(*m_ui->dbg_d);
     FitGridColumns(*m_ui->dbg_sd);
+    return removed;
 }
 
 void Tfrm_isian_hitung_gaji::btn_hapusClick() {

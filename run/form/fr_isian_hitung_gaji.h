@@ -76,7 +76,11 @@ private:
     void segarkan_rincian();
     [[nodiscard]] run::Selections selections() const;
     [[nodiscard]] run::EmployeeChoice chosen_employees() const;
-    [[nodiscard]] run::Notice compute();
+    [[nodiscard]] run::Notice compute(run::Run& run);
+    std::vector<run::RemovedLine> hitung();
+    void show_total();
+    void show_left_out(std::vector<run::LeftOut> people);
+    void list_left_out(const std::vector<run::LeftOut>& people);
     [[nodiscard]] bool cek_nama_proses();
     /// True where the run is stored; else the user was told why not.
     [[nodiscard]] bool simpan();
@@ -102,5 +106,13 @@ private:
     NamedText m_modeCaptions[3]{{this, QStringLiteral("txt_baru"), QStringLiteral("[Data Baru]")},
                                 {this, QStringLiteral("txt_ubah"), QStringLiteral("[Ubah Data]")},
                                 {this, QStringLiteral("txt_lihat"), QStringLiteral("[Lihat Data]")}};
+    NamedText txt_jumlah_benar{this, QStringLiteral("txt_jumlah_benar"), QStringLiteral("Jumlah semua baris: ")};
+    NamedText txt_tanpa_baris{this, QStringLiteral("txt_tanpa_baris"), QStringLiteral("karyawan tanpa baris gaji")};
+    NamedText txt_siapa{this, QStringLiteral("txt_siapa"), QStringLiteral("Siapa...")};
+    NamedText m_whyLeftOut[run::whyLeftOutCount]{
+        {this, QStringLiteral("txt_komponen_gagal"), QStringLiteral("komponen gagal dihitung")},
+        {this, QStringLiteral("txt_tanpa_aturan"), QStringLiteral("tidak ada komponen terpilih yang punya aturan")},
+        {this, QStringLiteral("txt_potongan_lebih"), QStringLiteral("potongan menghabiskan penerimaan")},
+        {this, QStringLiteral("txt_tidak_positif"), QStringLiteral("jumlah tidak positif")}};
     bool baru_dibuka = true;
 };

@@ -191,7 +191,8 @@ void WorkingCopy::appendRun(const Run& run) {
     }
 }
 
-void WorkingCopy::hitung() {
+std::vector<RemovedLine> WorkingCopy::hitung() {
+    std::vector<RemovedLine> removed;
     {
         const Walk walk(*this);
         cds_sd.settle();
@@ -202,9 +203,10 @@ void WorkingCopy::hitung() {
             cds_m.editValue(u"tot_process", total);
             cds_m.post();
         }
-        hitung2(view);
+        removed = hitung2(view);
     }
     segarkan_rincian();
+    return removed;
 }
 
 WorkingCopy::Sums WorkingCopy::sums() const {

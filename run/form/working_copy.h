@@ -1,7 +1,7 @@
 #pragma once
 
 #include "run/form/stored_run.h"
-#include "run/run.h"
+#include "run/totals.h"
 #include "toolkit/data/client_data_set.h"
 
 #include <functional>
@@ -50,8 +50,8 @@ public:
     /// Adds the lines and rows of a computation behind what is there.
     void appendRun(const Run& run);
 
-    /// Rounds, totals and cleans all lines, and puts the total into the header.
-    void hitung();
+    /// Rounds, totals and cleans all lines, and puts the total into the header. Gives the lines that went.
+    std::vector<RemovedLine> hitung();
 
     /// Earnings and deductions of the current line, each row rounded to whole rupiah.
     struct Sums {

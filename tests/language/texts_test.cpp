@@ -7,6 +7,7 @@
 #include "frame/window/fr_warning.h"
 #include "register/fr_hitung_gaji.h"
 #include "register/reports/captions.h"
+#include "run/form/left_out_list.h"
 #include "tests/support/test_database.h"
 #include "toolkit/report/fr_preview.h"
 #include "toolkit/ui/input_dialog.h"
@@ -95,8 +96,9 @@ Texts textsOfProgram() {
     collect.form(Tfrm_browse_emp(services, {}, {}, nullptr));
     collect.form(Tfrm_isian_hitung_gaji(services, {}, nullptr));
     collect.form(Tfrm_preview(report::Document{}, nullptr));
-    collect.form(Tfrm_hitung_gaji(services, nullptr));
     collect.form(Tfrm_daftar(services, frame::Notices::emptyList(), nullptr));
+    collect.form(Tfrm_daftar(services, leftOutList({}), nullptr));
+    collect.form(Tfrm_hitung_gaji(services, nullptr));
     const report::Captions captions = payroll::defaultCaptions();
     for (auto caption = captions.byName().begin(); caption != captions.byName().end(); ++caption)
         collect.add(caption.key(), -1, caption.value());

@@ -51,6 +51,28 @@ click btn_proses
 get lbl_notice
 key Esc
 forms
+echo who got no line, and why
+#: main alter table z_pay_com change gone no_urut int;
+#: main update z_pay_grp_com set use_sum=-1, operator_sum='/', konstanta_sum=0 where com_id=50
+click btn_tambah
+click btn_select_all
+tick dbg_kom com_kode=MKN
+tick dbg_kom com_kode=BNS
+type dbe_nama x
+click btn_proses
+grid dbg_d
+get lbl_notice
+state btn_notice
+click btn_notice
+grid dbg_daftar
+click btn_salin
+click btn_tutup
+click dbe_nama
+key Ctrl+V
+get dbe_nama
+click btn_hitung
+state pnl_notice
+close frm_isian_hitung_gaji
 echo the list
 click frm_menu.btn_pemberitahuan
 grid dbg_daftar

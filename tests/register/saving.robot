@@ -112,5 +112,20 @@ click chb_kredit
 click btn_proses
 grid dbg_d
 get lbl_total
+get lbl_jumlah_benar
 click btn_hitung
 get lbl_total
+state lbl_jumlah_benar
+close frm_isian_hitung_gaji
+echo a stored total that has wrapped, in the register and on the form
+state lbl_jumlah_benar
+#: main update z_pay_process_m set tot_process=-1044967296 where process_id=3
+#: main update z_pay_process_d set tot_payroll=3250000000 where process_id=3
+set dtp_tgl_aw 2026-10-01
+click btn_cari
+row dbg_m process_name=Bulat
+get lbl_jumlah_benar
+tick dbg_m process_name=Bulat
+click btn_edit
+get lbl_total
+get lbl_jumlah_benar

@@ -136,6 +136,35 @@ TEST(Loans, AloneLeaveNothingOfTheEmployeeInTheRun) {
     EXPECT_EQ(made.nomor_baris_terakhir, 1);
 }
 
+TEST(LeftOut, NamesTheFirstReasonThatHoldsForEachLine) {
+    SmallCompany nobodysRules = withLoans(smallCompany(u"uang=5"_s), 7, {{4, 50}});
+    nobodysRules.tables.memberships = Reading(run::Memberships{});
+    SmallCompany someLines = twoGroups({1, 2});
+    someLines.tables.rules =
+        Reading(run::RulesByComponent{{{1, 1}, {ruleOf(u"uang=0"_s)}}, {{2, 1}, {ruleOf(u"uang=5"_s)}}});
+    const struct {
+        SmallCompany company;
+        const char* expected;
+    } cases[] = {
+        {smallCompany(u"uang=5"_s), ""},
+        {smallCompany(u"if=f13 min=1 uang=5"_s, u"f13=0"_s), "0007 3 "},
+        {smallCompany(u"uang=3; com=2 typex=1 uang=3"_s), "0007 2 "},
+        {smallCompany(u"sum=f13 op=/ konst=0; com=2 typex=1 uang=3"_s, u"f13=4"_s), "0007 0 Division by zero"},
+        {smallCompany(u"hitung=1 sum=f13 op=/ konst=0"_s, u"f13=4,5"_s), "0007 0 Division by zero"},
+        {smallCompany(u"sum=f13"_s, u"f13=!"_s), "0007 0 lost"},
+        {nobodysRules, "0007 1 "},
+        {someLines, "P1 3 , P2 3 "},
+    };
+    for (const auto& c : cases) {
+        run::Run made = c.company.computed();
+        const run::Run whole = made;
+        QStringList people;
+        for (const run::LeftOut& person : leftOut(whole, hitung(made, 0)))
+            people << u"%1 %2 %3"_s.arg(person.pin).arg(int(person.why)).arg(person.fault);
+        EXPECT_EQ(people.join(u", "_s).toStdString(), c.expected) << describe(whole.lines.front().rows).toStdString();
+    }
+}
+
 TEST(TickedEmployees, AreComputedOncePerTickWithTheirFirstGroup) {
     SmallCompany company = twoGroups({2, 1});
     company.selections.employees = choice({{2, true}, {3, false}, {1, true}, {2, true}, {99, true}});
