@@ -30,9 +30,9 @@ void Tfrm_isian_hitung_gaji::show_left_out(std::vector<run::LeftOut> people) {
     QStringList reasons;
     for (std::size_t why = 0; why < counts.size(); ++why)
         if (counts[why] > 0)
-            reasons << QStringLiteral("%1 %2").arg(counts[why]).arg(m_whyLeftOut[why].text());
+            reasons << m_whyLeftOut[why].text() + QStringLiteral(": %1").arg(counts[why]);
     const QString text =
-        QStringLiteral("%1 %2: %3").arg(people.size()).arg(txt_tanpa_baris.text(), reasons.join(QStringLiteral(", ")));
+        txt_tanpa_baris.text() + QStringLiteral(": %1 (%2)").arg(people.size()).arg(reasons.join(QStringLiteral(", ")));
     NoticeBar::of(*this).tell({text, txt_siapa.text(), [this, people = std::move(people)] { list_left_out(people); }});
 }
 

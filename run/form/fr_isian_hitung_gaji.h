@@ -107,7 +107,7 @@ private:
                                 {this, QStringLiteral("txt_ubah"), QStringLiteral("[Ubah Data]")},
                                 {this, QStringLiteral("txt_lihat"), QStringLiteral("[Lihat Data]")}};
     NamedText txt_jumlah_benar{this, QStringLiteral("txt_jumlah_benar"), QStringLiteral("Jumlah semua baris: ")};
-    NamedText txt_tanpa_baris{this, QStringLiteral("txt_tanpa_baris"), QStringLiteral("karyawan tanpa baris gaji")};
+    NamedText txt_tanpa_baris{this, QStringLiteral("txt_tanpa_baris"), QStringLiteral("Karyawan tanpa baris gaji")};
     NamedText txt_siapa{this, QStringLiteral("txt_siapa"), QStringLiteral("Siapa...")};
     NamedText m_whyLeftOut[run::whyLeftOutCount]{
         {this, QStringLiteral("txt_komponen_gagal"), QStringLiteral("komponen gagal dihitung")},
