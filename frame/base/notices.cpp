@@ -39,7 +39,7 @@ Notices::Notices(Services& services, QWidget& mainWindow, QToolButton& button) :
     m_soon.setSingleShot(true);
     m_soon.setInterval(0);
     connect(&m_soon, &QTimer::timeout, this, &Notices::tell);
-    connect(&button, &QToolButton::clicked, this, [this] { runHandler(nullptr, [this] { showList(); }); });
+    connect(&button, &QToolButton::clicked, this, [this] { showingFaults(&m_mainWindow, [this] { showList(); }); });
     button.hide();
 }
 

@@ -96,7 +96,7 @@ void Tfrm_menu::connectHandlers() {
     Timer1.setSingleShot(true);
     Timer1.setInterval(std::chrono::seconds(1));
     // The guide is no action of the person at the screen; what the frame tells stays.
-    connect(&Timer1, &QTimer::timeout, this, [this] { runHandler(nullptr, [this] { Timer1Timer(); }); });
+    connect(&Timer1, &QTimer::timeout, this, [this] { showingFaults(this, [this] { Timer1Timer(); }); });
 }
 
 bool Tfrm_menu::FormCreate() {
@@ -234,6 +234,10 @@ void Tfrm_menu::btn_userlogClick() {
 }
 
 void Tfrm_menu::Timer1Timer() {
+    if (HandlersWait::isOn()) {
+        Timer1.start();
+        return;
+    }
     if (!m_frm_warning)
         m_frm_warning = std::make_unique<Tfrm_warning>(m_services.language);
     m_frm_warning->show();

@@ -70,7 +70,9 @@ click btn_tutup
 click dbe_nama
 key Ctrl+V
 get dbe_nama
-click btn_hitung
+key Shift+Tab
+state btn_notice_close
+key Return
 state pnl_notice
 close frm_isian_hitung_gaji
 echo the list

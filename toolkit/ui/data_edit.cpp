@@ -47,7 +47,7 @@ void DataEdit::writeValue() {
     if (!isModified() || isReadOnly())
         return;
     setModified(false);
-    runHandler(window(), [this] { m_set->editValue(m_field, text()); });
+    showingFaults(window(), [this] { m_set->editValue(m_field, text()); });
 }
 
 DataDateEdit::DataDateEdit(QWidget* parent) : QDateEdit(parent) {
@@ -59,7 +59,7 @@ void DataDateEdit::bind(data::DataSet& set, const QString& field) {
     m_field = field;
     followSet(set, this, &DataDateEdit::showValue);
     connect(this, &QDateEdit::dateChanged, this,
-            [this](const QDate& date) { runHandler(window(), [this, date] { m_set->editValue(m_field, date); }); });
+            [this](const QDate& date) { showingFaults(window(), [&] { m_set->editValue(m_field, date); }); });
     showValue();
 }
 

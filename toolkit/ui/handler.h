@@ -2,7 +2,6 @@
 
 #include "toolkit/ui/notice_bar.h"
 
-#include <QApplication>
 #include <QObject>
 #include <QPointer>
 #include <QTimer>
@@ -10,9 +9,23 @@
 
 #include <chrono>
 #include <exception>
+#include <utility>
 
 /// Shows what a handler could not cope with, in the words of whoever raised it.
 void showFault(QWidget* screen, const std::exception& fault);
+
+/// Runs what an event asks for. A fault ends here with a message: no exception may reach the event loop. True where it
+/// ended without one.
+template <typename Action>
+bool showingFaults(QWidget* screen, Action&& action) {
+    try {
+        std::forward<Action>(action)();
+        return true;
+    } catch (const std::exception& fault) {
+        showFault(screen, fault);
+        return false;
+    }
+}
 
 /// While one lives, events run inside a handler that is still at work, and handlers that they start wait for its end:
 /// it may be using what they would use.
@@ -29,26 +42,20 @@ private:
     static inline int s_count = 0;
 };
 
-/// Runs what an event asks for, at once or when handlers no longer wait, unless the screen is gone by then. A fault
-/// ends here with a message: no exception may reach the event loop. The action keeps its own copy of all that it uses.
-/// One that succeeds takes away what the screen's notice bar told before it. False where it ended with a fault.
+/// The same for an action of the person at the screen, at once or when handlers no longer wait, unless the screen is
+/// gone by then; the action keeps its own copy of all that it uses. One that succeeds takes away what the screen's
+/// notice bar told before it.
 template <typename Action>
 bool runHandler(QWidget* screen, Action action) {
     if (HandlersWait::isOn()) {
-        const QObject* context = screen ? static_cast<const QObject*>(screen) : qApp;
-        QTimer::singleShot(std::chrono::milliseconds(20), context, [screen, action] { runHandler(screen, action); });
+        QTimer::singleShot(std::chrono::milliseconds(20), screen, [screen, action] { runHandler(screen, action); });
         return true;
     }
-    const QPointer<NoticeBar> told = NoticeBar::atActionOf(screen);
-    try {
-        action();
-    } catch (const std::exception& fault) {
-        showFault(screen, fault);
-        return false;
-    }
-    if (told)
+    const QPointer<NoticeBar> told = NoticeBar::atActionOf(*screen);
+    const bool succeeded = showingFaults(screen, action);
+    if (succeeded && told)
         told->actionSucceeded();
-    return true;
+    return succeeded;
 }
 
 /// Connects a signal with a screen's handler, guarded by runHandler.

@@ -7,8 +7,10 @@
 #include <QLabel>
 #include <QMainWindow>
 #include <QPainter>
+#include <QScreen>
 #include <QToolButton>
 
+#include <algorithm>
 #include <utility>
 
 namespace {
@@ -55,9 +57,8 @@ NoticeBar& NoticeBar::of(QWidget& screen) {
     return bar ? *bar : *new NoticeBar(*host);
 }
 
-NoticeBar* NoticeBar::atActionOf(const QWidget* screen) {
-    const QWidget* host = screen ? hostOf(*screen) : nullptr;
-    NoticeBar* bar = host ? barIn(*host) : nullptr;
+NoticeBar* NoticeBar::atActionOf(const QWidget& screen) {
+    NoticeBar* bar = barIn(*hostOf(screen));
     if (bar)
         bar->m_isOld = true;
     return bar;
@@ -68,7 +69,7 @@ NoticeBar::NoticeBar(QWidget& host) :
     setObjectName(QStringLiteral("pnl_notice"));
     m_label->setObjectName(QStringLiteral("lbl_notice"));
     QToolButton* close = newButton(QStringLiteral("btn_notice_close"), QStringLiteral("✕"));
-    connect(m_button, &QToolButton::clicked, this, [this] { runHandler(nullptr, m_notice.more); });
+    connect(m_button, &QToolButton::clicked, this, [this] { showingFaults(window(), m_notice.more); });
     connect(close, &QToolButton::clicked, this, [this] {
         m_isOld = true;
         dropOld();
@@ -133,7 +134,9 @@ void NoticeBar::place() {
 
 void NoticeBar::showEvent(QShowEvent* event) {
     QFrame::showEvent(event);
-    parentWidget()->setContentsMargins(0, 0, 0, sizeHint().height());
+    // The window makes room as far as the screen has any; beyond that the bar covers its foot.
+    const int room = screen()->availableSize().height() - window()->minimumSizeHint().height();
+    parentWidget()->setContentsMargins(0, 0, 0, std::clamp(room, 0, sizeHint().height()));
 }
 
 void NoticeBar::hideEvent(QHideEvent* event) {

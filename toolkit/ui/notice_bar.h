@@ -25,8 +25,8 @@ public:
     /// The bar of the window that holds the screen; in a main window it lies above the status bar.
     [[nodiscard]] static NoticeBar& of(QWidget& screen);
     /// The same where an action of the screen begins: what the bar shows is old from now on. Null where the window has
-    /// none; the screen may be null.
-    [[nodiscard]] static NoticeBar* atActionOf(const QWidget* screen);
+    /// none.
+    [[nodiscard]] static NoticeBar* atActionOf(const QWidget& screen);
     void actionSucceeded();
 
     void tell(const Notice& notice);
