@@ -7,6 +7,7 @@
 #include "toolkit/ui/input_dialog.h"
 #include "toolkit/ui/message_dialog.h"
 #include "toolkit/ui/named_text.h"
+#include "toolkit/ui/plain_text.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -28,6 +29,11 @@ const QString untranslated = QStringLiteral("''");
 void requireEntry(int no_index, int count) {
     if (no_index < 0 || no_index >= count)
         throw std::out_of_range("list index out of bounds: " + std::to_string(no_index));
+}
+
+void applyToLabel(QLabel& label, const QString& text) {
+    label.setTextFormat(Qt::PlainText);
+    label.setText(text);
 }
 
 void applyToCombo(QComboBox& combo, const QString& text, int no_index) {
@@ -60,9 +66,9 @@ void applyText(QObject* target, const QString& text, int no_index) {
     else if (auto* band = qobject_cast<GridBand*>(target))
         band->setCaption(text);
     else if (auto* label = qobject_cast<QLabel*>(target))
-        label->setText(text);
+        applyToLabel(*label, text);
     else if (auto* button = qobject_cast<QAbstractButton*>(target))
-        no_index == -1 ? button->setText(text) : button->setToolTip(text);
+        no_index == -1 ? button->setText(text) : button->setToolTip(plainToolTip(text));
     else if (auto* combo = qobject_cast<QComboBox*>(target))
         applyToCombo(*combo, text, no_index);
     else if (auto* group = qobject_cast<QGroupBox*>(target))

@@ -5,7 +5,7 @@
 #include <QTimer>
 #include <QWidget>
 
-class QLabel;
+class DataLabel;
 class QPushButton;
 
 /// A child window of the frame: the home of one subsystem. It is created for its use, keeps the frame's own panels
@@ -56,5 +56,5 @@ protected:
 private:
     [[nodiscard]] Workspace* workspace() const;
 
-    QLabel* m_caption;
+    DataLabel* m_caption;
 };

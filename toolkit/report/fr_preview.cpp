@@ -45,7 +45,10 @@ void tryOutput(QWidget* window, Action&& action) {
         const Busy busy;
         action();
     } catch (const report::OutputFault& fault) {
-        QMessageBox::warning(window, window->windowTitle(), QString::fromUtf8(fault.what()));
+        QMessageBox box(QMessageBox::Warning, window->windowTitle(), QString::fromUtf8(fault.what()), QMessageBox::Ok,
+                        window);
+        box.setTextFormat(Qt::PlainText);
+        box.exec();
     }
 }
 

@@ -31,6 +31,7 @@ InputWindow::InputWindow(const QString& caption, const QStringList& texts, QWidg
     setWindowTitle(caption);
     m_edit->setMinimumWidth(fontMetrics().averageCharWidth() * 64);
     auto* label = new QLabel(texts[0]);
+    label->setTextFormat(Qt::PlainText);
     label->setBuddy(m_edit);
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
     buttons->button(QDialogButtonBox::Ok)->setText(texts[1]);

@@ -1,5 +1,7 @@
 #include "toolkit/ui/message_dialog.h"
 
+#include "toolkit/ui/plain_text.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -79,7 +81,7 @@ MessageWindow::MessageWindow(MessageKind kind, const Message& message, QWidget* 
     auto* icon = new QLabel;
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
     icon->setPixmap(style()->standardIcon(iconOf(kind)).pixmap(size, size));
-    auto* text = new QLabel(message.text);
+    auto* text = new QLabel(readable(message.text));
     text->setObjectName(QStringLiteral("lbl_pesan"));
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);

@@ -1,0 +1,34 @@
+#include "toolkit/ui/data_label.h"
+
+#include "toolkit/ui/plain_text.h"
+
+#include <QEvent>
+#include <QPainter>
+#include <QStyle>
+
+DataLabel::DataLabel(QWidget* parent) : QLabel(parent) {
+    setTextFormat(Qt::PlainText);
+}
+
+QSize DataLabel::minimumSizeHint() const {
+    constexpr int fewCharacters = 4;
+    const QSize whole = QLabel::minimumSizeHint();
+    return {std::min(whole.width(), fontMetrics().averageCharWidth() * fewCharacters), whole.height()};
+}
+
+bool DataLabel::event(QEvent* event) {
+    if (event->type() == QEvent::ToolTip)
+        setToolTip(plainToolTip(text()));
+    return QLabel::event(event);
+}
+
+void DataLabel::paintEvent(QPaintEvent* event) {
+    QFrame::paintEvent(event);
+    QPainter painter(this);
+    const QRect room = contentsRect().marginsRemoved({margin(), margin(), margin(), margin()});
+    // The end stays: an amount may stand there. The direction is the screen's, so that it does stand there behind a
+    // name that runs from right to left.
+    const QString shown = fontMetrics().elidedText(singleLine(text()), Qt::ElideMiddle, room.width());
+    style()->drawItemText(&painter, room, int(alignment()) | Qt::TextForceLeftToRight | Qt::TextSingleLine, palette(),
+                          isEnabled(), shown, foregroundRole());
+}

@@ -1,0 +1,40 @@
+#include "toolkit/ui/plain_text.h"
+
+#include <QTextBoundaryFinder>
+
+namespace {
+
+constexpr qsizetype mostCharacters = 1200;
+constexpr int mostInARow = 40;
+constexpr QChar zeroWidthSpace(0x200b);
+
+} // namespace
+
+QString singleLine(const QString& text) {
+    QString line = text;
+    for (QChar& c : line)
+        if (c == u'\n' || c == u'\r' || c == u'\t' || c == QChar::LineSeparator || c == QChar::ParagraphSeparator)
+            c = u' ';
+    return line;
+}
+
+QString readable(const QString& text) {
+    const QString start = text.size() > mostCharacters ? text.left(mostCharacters) + QChar(0x2026) : text;
+    QString broken;
+    int inARow = 0;
+    // By what is seen as one character: nothing may come between the parts of one.
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, start);
+    for (qsizetype from = 0, to = finder.toNextBoundary(); to > from; from = to, to = finder.toNextBoundary()) {
+        inARow = start[from].isSpace() ? 0 : inARow + 1;
+        if (inARow > mostInARow) {
+            broken += zeroWidthSpace;
+            inARow = 1;
+        }
+        broken += QStringView(start).sliced(from, to - from);
+    }
+    return broken;
+}
+
+QString plainToolTip(const QString& text) {
+    return text.isEmpty() ? QString() : QStringLiteral("<qt>%1</qt>").arg(readable(text).toHtmlEscaped());
+}
