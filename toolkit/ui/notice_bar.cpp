@@ -1,12 +1,11 @@
 #include "toolkit/ui/notice_bar.h"
 
+#include "toolkit/ui/data_label.h"
 #include "toolkit/ui/handler.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QMainWindow>
-#include <QPainter>
 #include <QScreen>
 #include <QToolButton>
 
@@ -14,21 +13,6 @@
 #include <utility>
 
 namespace {
-
-/// One line of plain text: what finds no room is cut in the middle and stands in the tool tip.
-class NoticeLabel final : public QLabel {
-public:
-    NoticeLabel() {
-        setTextFormat(Qt::PlainText);
-        setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-    }
-
-protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter(this).drawText(contentsRect(), int(Qt::AlignVCenter),
-                                fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()));
-    }
-};
 
 QWidget* hostOf(const QWidget& screen) {
     const auto* frame = qobject_cast<QMainWindow*>(screen.window());
@@ -65,9 +49,10 @@ NoticeBar* NoticeBar::atActionOf(const QWidget& screen) {
 }
 
 NoticeBar::NoticeBar(QWidget& host) :
-    QFrame(&host), m_label(new NoticeLabel), m_button(newButton(QStringLiteral("btn_notice"), {})) {
+    QFrame(&host), m_label(new DataLabel), m_button(newButton(QStringLiteral("btn_notice"), {})) {
     setObjectName(QStringLiteral("pnl_notice"));
     m_label->setObjectName(QStringLiteral("lbl_notice"));
+    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     QToolButton* close = newButton(QStringLiteral("btn_notice_close"), QStringLiteral("✕"));
     connect(m_button, &QToolButton::clicked, this, [this] { showingFaults(window(), m_notice.more); });
     connect(close, &QToolButton::clicked, this, [this] {
@@ -80,7 +65,10 @@ NoticeBar::NoticeBar(QWidget& host) :
     layout->addWidget(m_label, 1);
     layout->addWidget(m_button);
     layout->addWidget(close);
-    setAttribute(Qt::WA_StyledBackground);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, QColor(0xff, 0xf4, 0xd6));
+    setPalette(colours);
+    setAutoFillBackground(true);
     host.installEventFilter(this);
     hide();
 }
@@ -118,8 +106,7 @@ void NoticeBar::display() {
         parts << m_notice.text;
     if (!m_dropped.isEmpty())
         parts << m_dropped + (m_furtherDropped > 0 ? QStringLiteral(" (+%1)").arg(m_furtherDropped) : QString());
-    m_label->setText(parts.join(QStringLiteral("  |  ")).simplified());
-    m_label->setToolTip(QStringLiteral("<qt>%1</qt>").arg(m_label->text().toHtmlEscaped()));
+    m_label->setText(parts.join(QStringLiteral("  |  ")));
     m_button->setText(m_notice.moreCaption);
     m_button->setVisible(bool(m_notice.more));
     show();

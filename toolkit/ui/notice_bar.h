@@ -5,7 +5,7 @@
 
 #include <functional>
 
-class QLabel;
+class DataLabel;
 class QToolButton;
 
 /// A thin bar at the foot of a window, for what a person should know without being stopped. It shows when it is told
@@ -45,7 +45,7 @@ private:
     void display();
     void place();
 
-    QLabel* m_label;
+    DataLabel* m_label;
     QToolButton* m_button;
     Notice m_notice;
     QString m_dropped;

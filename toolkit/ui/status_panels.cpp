@@ -1,17 +1,23 @@
 #include "toolkit/ui/status_panels.h"
 
-#include <QLabel>
+#include "toolkit/ui/data_label.h"
 
-StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent) {}
+#include <QPainter>
+
+StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent) {
+    QPalette palette = this->palette();
+    palette.setColor(QPalette::Window, QColor(0xe4, 0xe9, 0xed));
+    setPalette(palette);
+    setAutoFillBackground(true);
+}
 
 void StatusPanels::setPanelCount(int count) {
-    for (QLabel* panel : m_panels)
+    for (DataLabel* panel : m_panels)
         delete panel;
     m_panels.clear();
     for (int i = 0; i < count; ++i) {
-        auto* panel = new QLabel;
+        auto* panel = new DataLabel;
         panel->setObjectName(QStringLiteral("panel_%1").arg(i));
-        panel->setTextFormat(Qt::PlainText);
         // Without this a long text would take width from its neighbours.
         panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         panel->setMargin(3);
@@ -20,10 +26,16 @@ void StatusPanels::setPanelCount(int count) {
     }
 }
 
+void StatusPanels::paintEvent(QPaintEvent* event) {
+    QStatusBar::paintEvent(event);
+    QPainter painter(this);
+    painter.setPen(QColor(0xc3, 0xcc, 0xd4));
+    for (const DataLabel* panel : m_panels)
+        painter.drawLine(panel->geometry().topRight(), panel->geometry().bottomRight());
+}
+
 void StatusPanels::setPanelText(int index, const QString& text) {
-    QLabel* panel = m_panels.at(std::size_t(index));
-    panel->setText(text);
-    panel->setToolTip(QStringLiteral("<qt>%1</qt>").arg(text.toHtmlEscaped()));
+    m_panels.at(std::size_t(index))->setText(text);
 }
 
 QString StatusPanels::panelText(int index) const {

@@ -4,7 +4,7 @@
 
 #include <vector>
 
-class QLabel;
+class DataLabel;
 
 /// A status bar of panels of equal width.
 class StatusPanels final : public QStatusBar {
@@ -18,6 +18,9 @@ public:
     void setPanelText(int index, const QString& text);
     [[nodiscard]] QString panelText(int index) const;
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
-    std::vector<QLabel*> m_panels;
+    std::vector<DataLabel*> m_panels;
 };

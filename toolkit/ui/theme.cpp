@@ -3,8 +3,14 @@
 #include <QApplication>
 #include <QDateTimeEdit>
 #include <QEvent>
+#include <QLabel>
 #include <QPalette>
+#include <QPixmapCache>
 #include <QStyleFactory>
+#include <QToolButton>
+
+#include <initializer_list>
+#include <utility>
 
 namespace {
 
@@ -23,15 +29,56 @@ QPalette lightPalette() {
     return palette;
 }
 
-// Title bars of panels carry the dynamic property "judul"; everything else is the style's.
-constexpr char16_t sheet[] = uR"(
-    *[judul="true"] { background: #0f4c64; color: white; padding: 5px 10px; font-weight: bold; }
-    *[jumlah="true"] { font-size: 13pt; font-weight: bold; color: #0f4c64; }
-    *[tebal="true"] { font-weight: bold; }
-    #pnl_notice { background: #fff4d6; border-top: 1px solid #e3c878; }
-    QStatusBar { background: #e4e9ed; }
-    QStatusBar::item { border-right: 1px solid #c3ccd4; }
-)";
+const QColor deep(0x0f, 0x4c, 0x64);
+
+void setColours(QWidget& widget, const std::initializer_list<std::pair<QPalette::ColorRole, QColor>>& colours) {
+    QPalette palette = widget.palette();
+    for (const auto& [role, colour] : colours)
+        palette.setColor(role, colour);
+    widget.setPalette(palette);
+}
+
+void makeBold(QWidget& widget, int points = 0) {
+    QFont font = widget.font();
+    font.setBold(true);
+    if (points > 0)
+        font.setPointSize(points);
+    widget.setFont(font);
+}
+
+/// Title bars of panels carry the dynamic property "judul", sums "jumlah", what is to stand out "tebal". A style sheet
+/// would do the same, and keep some kilobytes of every screen that it ever drew.
+class MarkedLooks final : public QObject {
+public:
+    using QObject::QObject;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        if (event->type() == QEvent::Polish && watched->isWidgetType())
+            dress(static_cast<QWidget&>(*watched));
+        return false;
+    }
+
+private:
+    static void dress(QWidget& widget) {
+        constexpr int sumPoints = 13;
+        const auto is = [&widget](const char* mark) { return widget.property(mark).toBool(); };
+        if (is("judul")) {
+            setColours(
+                widget,
+                {{QPalette::Window, deep}, {QPalette::WindowText, Qt::white}, {QPalette::ButtonText, Qt::white}});
+            widget.setAutoFillBackground(!qobject_cast<QToolButton*>(&widget));
+            makeBold(widget);
+            if (qobject_cast<QLabel*>(&widget))
+                widget.setContentsMargins(10, 5, 10, 5);
+        } else if (is("jumlah")) {
+            setColours(widget, {{QPalette::WindowText, deep}});
+            makeBold(widget, sumPoints);
+        } else if (is("tebal")) {
+            makeBold(widget);
+        }
+    }
+};
 
 /// With a calendar the style draws a wider arrow than the hint of a date edit has room for; in a large font the last
 /// digit lies under it.
@@ -54,5 +101,8 @@ void applyTheme(QApplication& application) {
     QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
     QApplication::setPalette(lightPalette());
     application.installEventFilter(new DateRoom(&application));
-    application.setStyleSheet(QString::fromUtf16(sheet));
+    application.installEventFilter(new MarkedLooks(&application));
+    // The style draws its controls through this cache, under names that differ from widget to widget: what a closed
+    // screen left there is never found again.
+    QPixmapCache::setCacheLimit(0);
 }
