@@ -7,6 +7,7 @@
 #include "register/reports/statements.h"
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/report/fr_preview.h"
+#include "toolkit/report/report.h"
 #include "toolkit/ui/caption.h"
 #include "toolkit/ui/handler.h"
 #include "toolkit/ui/wait_cursor.h"
@@ -17,6 +18,8 @@
 namespace {
 
 const frame::MessageText pilih_data{u"frm_hitung_gaji"_qs, 3, u"Pilih data yang akan dicetak."_qs};
+const frame::MessageText tidak_muat{u"frm_hitung_gaji"_qs, 4,
+                                    u"Judul dan kaki halaman terlalu tinggi, tidak ada tempat untuk isi laporan."_qs};
 
 } // namespace
 
@@ -53,19 +56,27 @@ std::optional<payroll::Request> Tfrm_hitung_gaji::ticked_runs() {
     return std::nullopt;
 }
 
+std::optional<report::Document> Tfrm_hitung_gaji::compose(const payroll::Request& request, const MakeReport& make) {
+    const WaitCursor wait;
+    const report::Captions captions = payroll::captionsOf(m_services.session, m_services.language.lang_column());
+    payroll::PayrollReports reports(m_services.session, captions);
+    return make(reports, request);
+}
+
 void Tfrm_hitung_gaji::print(const QString& entry, const MakeReport& make) {
     const std::optional<payroll::Request> request = ticked_runs();
     if (!request)
         return;
-    const WaitCursor wait;
-    const report::Captions captions = payroll::captionsOf(m_services.session, m_services.language.lang_column());
-    payroll::PayrollReports reports(m_services.session, captions);
-    std::optional<report::Document> document = make(reports, *request);
-    if (!document)
-        return;
-    Tfrm_preview& preview = Tfrm_preview::open(std::move(*document), window());
-    preview.setWindowTitle(captionText(pmn_cetak->findChild<QAction*>(entry)->text()));
-    m_services.language.ApplyLanguage(preview);
+    try {
+        std::optional<report::Document> document = compose(*request, make);
+        if (!document)
+            return;
+        Tfrm_preview& preview = Tfrm_preview::open(std::move(*document), window());
+        preview.setWindowTitle(captionText(pmn_cetak->findChild<QAction*>(entry)->text()));
+        m_services.language.ApplyLanguage(preview);
+    } catch (const report::NoRoom&) {
+        m_services.messages.error(this, tidak_muat);
+    }
 }
 
 void Tfrm_hitung_gaji::RekapPenggajian1Click() {

@@ -1,6 +1,9 @@
 // Where sections go when a page ends.
 #include "tests/report/paper.h"
+#include "toolkit/report/output.h"
 #include "toolkit/report/report.h"
+
+#include <QImage>
 
 #include <gtest/gtest.h>
 
@@ -87,4 +90,32 @@ TEST(Breaking, AGapBetweenSectionsTakesRoom) {
     EXPECT_EQ(compose(orders.report).pages.size(), 1u);
     orders.report.section.gap = 5 * lineMm;
     EXPECT_EQ(compose(orders.report).pages.size(), 2u);
+}
+
+TEST(Breaking, HeaderAndFooterMustLeaveRoomForALine) {
+    Orders orders({3});
+    const auto withHeader = [&orders](int lines) {
+        orders.report.header = [lines](const report::PageInfo&) { return std::vector<Band>(lines, Orders::band({})); };
+        return compose(orders.report).pages.size();
+    };
+    EXPECT_EQ(withHeader(9), 5u);
+    EXPECT_THROW((void)withHeader(10), report::NoRoom);
+    orders.report.section.frame->padding = 1;
+    EXPECT_THROW((void)withHeader(9), report::NoRoom);
+}
+
+TEST(Breaking, TextsThatNobodyReadsTakeOnePageAndCanBeDrawn) {
+    Orders orders({1});
+    const QString word(65'000, u'M');
+    for (const QString& text : {word, QString(word).replace(u"MM"_s, u"M "_s)}) {
+        orders.report.section.parts = {Band{.items = {label({.width = 20}, text), label({.x = 20, .width = 5}, text),
+                                                      label({.x = 30, .width = 20}, text, report::atTheRight)}}};
+        const report::Document document = compose(orders.report);
+        ASSERT_EQ(document.pages.size(), 1u);
+        EXPECT_EQ(document.pages[0].marks[1].text.count(u'\n'), 9);
+        QImage sheet(300, 300, QImage::Format_RGB32);
+        QPainter painter(&sheet);
+        painter.scale(0.05, 0.05);
+        report::PagePainter().draw(painter, document.pages[0]);
+    }
 }

@@ -13,6 +13,25 @@ constexpr double tinyMm = 0.001;
 // A line at the bottom belongs to its band, also where the page ends there.
 constexpr double bottomRuleMm = 0.1;
 
+// A page of small print holds less; setting and drawing take longer with the square of the length.
+constexpr qsizetype mostOnAPage = 10'000;
+constexpr qsizetype mostInALine = 1000;
+const QChar ellipsis(0x2026);
+
+QString shortened(const QString& text, qsizetype most) {
+    if (text.size() <= most)
+        return text;
+    return text.left(text[most - 1].isHighSurrogate() ? most - 1 : most) + ellipsis;
+}
+
+QString firstLines(const QString& text, int lines) {
+    qsizetype end = -1;
+    for (int line = 0; line < lines; ++line)
+        if ((end = text.indexOf(u'\n', end + 1)) < 0)
+            return text;
+    return text.left(end) + ellipsis;
+}
+
 double grownHeight(const Band& band, double needed) {
     return band.height + std::ceil(std::max(0.0, needed - band.height - tinyMm) / lineMm) * lineMm;
 }
@@ -92,9 +111,10 @@ double BlockPrinter::item(const Item& item, const QString& band, QPointF at) {
     Look look = item.look;
     look.underline = printing.underline;
     const Place& place = item.place;
-    printing.text.replace(u'\n', u' ');
-    const QString text =
-        look.fit == Fit::Wrap ? m_type.wrapped(printing.text, look, place.width) : std::move(printing.text);
+    const bool wraps = look.fit == Fit::Wrap;
+    QString text = shortened(printing.text, wraps ? mostOnAPage : mostInALine).replace(u'\n', u' ');
+    if (wraps)
+        text = firstLines(m_type.wrapped(text, look, place.width), m_lines);
     const double height = double(text.count(u'\n') + 1) * lineMm;
     m_block.marks.push_back({.band = band,
                              .box = {at.x() + place.x, at.y() + place.y, place.width, height},

@@ -23,7 +23,8 @@ struct Block {
 /// Fills a block with bands and lists, asking the items for their texts.
 class BlockPrinter final {
 public:
-    explicit BlockPrinter(TypeSetter& type) : m_type(type) {}
+    /// lines: how many a text may have.
+    BlockPrinter(TypeSetter& type, int lines) : m_type(type), m_lines(lines) {}
 
     /// For the record that the master stands on; lists show what belongs to it.
     [[nodiscard]] Block print(const std::vector<Part>& parts, const data::DataSet& master);
@@ -45,6 +46,7 @@ private:
     void rules(const Band& band, const QRectF& box);
 
     TypeSetter& m_type;
+    const int m_lines;
     const data::DataSet* m_master = nullptr;
     Block m_block;
 };

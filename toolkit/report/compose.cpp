@@ -1,5 +1,6 @@
 #include "toolkit/report/block.h"
 
+#include <algorithm>
 #include <iterator>
 #include <utility>
 
@@ -80,8 +81,13 @@ void Pages::addPiece(Block& block, double from, double to, const Printing& frame
     m_used += height;
 }
 
+int linesIn(double height) {
+    return std::max(1, int(height / lineMm));
+}
+
 Block pageBands(const PageBands& bands, const PageInfo& info, TypeSetter& type) {
-    return bands ? BlockPrinter(type).print(bands(info)) : Block{};
+    constexpr int mostLines = 100;
+    return bands ? BlockPrinter(type, mostLines).print(bands(info)) : Block{};
 }
 
 void addMarks(Page& page, Block bands, QPointF at) {
@@ -92,8 +98,13 @@ void addMarks(Page& page, Block bands, QPointF at) {
 }
 
 std::vector<FilledPage> body(const Report& report, QRectF body, TypeSetter& type) {
+    const double padding = report.section.frame ? report.section.frame->padding : 0;
+    const double room = body.height() - 2 * padding;
+    // Below a line's height the pages would never come to an end.
+    if (room < lineMm - tinyMm)
+        throw NoRoom();
     Pages pages(report.section, body);
-    BlockPrinter printer(type);
+    BlockPrinter printer(type, linesIn(room));
     data::DataSet& master = *report.master;
     const data::ViewsOff quiet(master);
     const int row = master.row();

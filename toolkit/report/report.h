@@ -4,6 +4,7 @@
 #include "toolkit/report/document.h"
 
 #include <optional>
+#include <stdexcept>
 #include <variant>
 
 namespace report {
@@ -63,8 +64,15 @@ struct Report {
     Section section{};
 };
 
+/// Header and footer leave no room for a line between them.
+class NoRoom final : public std::runtime_error {
+public:
+    NoRoom() : std::runtime_error("header and footer fill the page") {}
+};
+
 /// Prints the report from the first record to the last; without records it is one page. The sets must be open. The
-/// master's cursor stays where it was; linked sets keep the filter of the last record.
+/// master's cursor stays where it was; linked sets keep the filter of the last record. A text that is longer than a
+/// page ends with an ellipsis. Throws NoRoom.
 [[nodiscard]] Document compose(const Report& report);
 
 } // namespace report
