@@ -1,5 +1,7 @@
 #include "toolkit/text/number_text.h"
 
+#include <QStringList>
+
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -16,25 +18,31 @@ TEST(GroupedNumbers, RoundAndNeverShowMinusZero) {
         double value;
         const char16_t* integer;
         const char16_t* twoDecimals;
-    } cases[] = {{0, u"0", u"0,00"},
-                 {999, u"999", u"999,00"},
-                 {-1000, u"-1.000", u"-1.000,00"},
-                 {1500.5, u"1.500", u"1.500,50"},
-                 {1501.5, u"1.502", u"1.501,50"},
-                 {-0.4, u"0", u"-0,40"},
-                 {-0.001, u"0", u"0,00"},
-                 {0.125, u"0", u"0,13"},
-                 {1234567890123.0, u"1.234.567.890.123", u"1.234.567.890.123,00"},
-                 {std::nan(""), u"0", u"0,00"},
-                 {INFINITY, u"0", u"0,00"}};
+        const char16_t* upToTwo;
+    } cases[] = {{0, u"0", u"0,00", u"0"},
+                 {999, u"999", u"999,00", u"999"},
+                 {-1000, u"-1.000", u"-1.000,00", u"-1.000"},
+                 {1500.5, u"1.500", u"1.500,50", u"1.500,5"},
+                 {1501.5, u"1.502", u"1.501,50", u"1.501,5"},
+                 {-0.4, u"0", u"-0,40", u"-0,4"},
+                 {-0.001, u"0", u"0,00", u"0"},
+                 {0.125, u"0", u"0,13", u"0,13"},
+                 {1234567890123.0, u"1.234.567.890.123", u"1.234.567.890.123,00", u"1.234.567.890.123"},
+                 {std::nan(""), u"0", u"0,00", u"0"},
+                 {INFINITY, u"0", u"0,00", u"0"}};
     for (const auto& c : cases) {
         EXPECT_EQ(groupedInteger(c.value), QString::fromUtf16(c.integer)) << c.value;
         EXPECT_EQ(groupedTwoDecimals(c.value), QString::fromUtf16(c.twoDecimals)) << c.value;
+        EXPECT_EQ(groupedUpToTwoDecimals(c.value), QString::fromUtf16(c.upToTwo)) << c.value;
     }
 }
 
-TEST(PlainNumber, ReadsBackAsTheSameDouble) {
-    for (const double value : {0.1, 1.0 / 3, 1e21, -2.5e-7, 9007199254740993.0, 4880300.0})
-        EXPECT_EQ(plainNumber(value).toDouble(), value);
-    EXPECT_EQ(plainNumber(4880300), QStringLiteral("4880300"));
+TEST(PlainNumber, ReadsBackAsTheSameDoubleAndHasNoExponentThatCanBeAvoided) {
+    QStringList texts;
+    for (const double value : {0.0, 0.1, 1.0 / 3, 1e5, 5e6, -2.5e-7, 999999999999999.9, 1e15, 9007199254740993.0}) {
+        texts << plainNumber(value);
+        EXPECT_EQ(texts.last().toDouble(), value);
+    }
+    EXPECT_EQ(texts.join(u' ').toStdString(), "0 0.1 0.3333333333333333 100000 5000000 -0.00000025 999999999999999.9 "
+                                              "1e+15 9007199254740992");
 }

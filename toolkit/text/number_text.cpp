@@ -42,6 +42,15 @@ QString groupedTwoDecimals(double value) {
     return grouped(number.left(number.size() - 3)) + u',' + number.right(2);
 }
 
+QString groupedUpToTwoDecimals(double value) {
+    QString number = groupedTwoDecimals(value);
+    while (number.endsWith(u'0') && number.contains(u','))
+        number.chop(1);
+    return number.endsWith(u',') ? number.chopped(1) : number;
+}
+
 QString plainNumber(double value) {
-    return QString::number(value, 'g', QLocale::FloatingPointShortest);
+    const double size = std::abs(value);
+    const bool isReadable = size == 0 || (size >= 1e-15 && size < 1e15);
+    return QString::number(value, isReadable ? 'f' : 'g', QLocale::FloatingPointShortest);
 }

@@ -12,5 +12,9 @@
 /// The picture "#,##0.00": grouped with points, a comma and two decimals, halves away from zero.
 [[nodiscard]] QString groupedTwoDecimals(double value);
 
-/// Shortest text that reads back as the same double, with a point; used where a number goes into a statement.
+/// The same with as many decimals as it takes, two at most: "1.500", "2,5".
+[[nodiscard]] QString groupedUpToTwoDecimals(double value);
+
+/// Shortest text that reads back as the same double, with a point: for statements and for fields that are typed in. An
+/// exponent stands only in what has more than fifteen digits before the point or as many zeros behind it.
 [[nodiscard]] QString plainNumber(double value);

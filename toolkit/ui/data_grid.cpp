@@ -13,7 +13,7 @@
 
 namespace {
 
-/// Draws a cell in its own colour on the current row, too.
+/// Draws a cell in its own colour on the current row, too, and numbers lined up.
 class CellDelegate final : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -23,6 +23,8 @@ protected:
         QStyledItemDelegate::initStyleOption(option, index);
         if (option->backgroundBrush.style() != Qt::NoBrush)
             option->state &= ~QStyle::State_Selected;
+        const auto* grid = static_cast<const DataGrid*>(parent());
+        option->text = grid->columns()[std::size_t(index.column())]->linedUp(option->text);
     }
 };
 
@@ -161,7 +163,7 @@ int widestText(const GridModel& rows, int column, const QFontMetrics& metrics) {
     int widest = 0;
     QSet<QString> measured;
     for (int row = 0; row < rows.rowCount(); ++row) {
-        const QString text = rows.textAt(row, column).trimmed();
+        const QString text = rows.columns()[std::size_t(column)]->linedUp(rows.textAt(row, column).trimmed());
         const qsizetype known = measured.size();
         measured.insert(text);
         if (measured.size() > known)

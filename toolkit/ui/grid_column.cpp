@@ -33,7 +33,18 @@ void GridColumn::setCaption(const QString& caption) {
 }
 
 QString GridColumn::editText(const QVariant& value) const {
-    return m_plan.show == Show::Money ? plainText(value) : displayText(value);
+    const bool isGrouped = m_plan.show == Show::Money || m_plan.show == Show::Factor;
+    return isGrouped ? plainText(value) : displayText(value);
+}
+
+QString GridColumn::linedUp(const QString& text) const {
+    if (m_plan.show != Show::Factor || text.isEmpty())
+        return text;
+    // Blanks as wide as a digit and as a comma stand for the decimals that a number has not.
+    constexpr QChar digit(0x2007);
+    constexpr QChar comma(0x2008);
+    const qsizetype at = text.indexOf(u',');
+    return at < 0 ? text + comma + digit + digit : text + QString(3 - (text.size() - at), digit);
 }
 
 QString GridColumn::displayText(const QVariant& value) const {
@@ -42,6 +53,8 @@ QString GridColumn::displayText(const QVariant& value) const {
     switch (m_plan.show) {
     case Show::Money:
         return groupedInteger(data::realOf(value));
+    case Show::Factor:
+        return groupedUpToTwoDecimals(data::realOf(value));
     case Show::Date:
         return data::dateOf(value).toString(QStringLiteral("dd/MM/yyyy"));
     case Show::Moment:

@@ -8,6 +8,7 @@
 enum class Show {
     Plain,  ///< as stored, numbers with a decimal comma
     Money,  ///< whole rupiah with points: ",0.;-,0."
+    Factor, ///< grouped, up to two decimals, lined up at the comma
     Date,   ///< dd/MM/yyyy
     Moment, ///< dd/MM/yyyy HH:mm
     Tick,   ///< a mark that the user sets and clears, -1 and 0
@@ -66,6 +67,8 @@ public:
     [[nodiscard]] QString editText(const QVariant& value) const;
     /// The value as the grid shows it.
     [[nodiscard]] QString displayText(const QVariant& value) const;
+    /// A shown text with the blanks that make the column line up.
+    [[nodiscard]] QString linedUp(const QString& text) const;
 
 Q_SIGNALS:
     void changed();
