@@ -189,6 +189,7 @@ void WorkingCopy::appendRun(const Run& run) {
             cds_sd.post();
         }
     }
+    cds_d.first();
 }
 
 std::vector<RemovedLine> WorkingCopy::hitung() {
@@ -197,6 +198,8 @@ std::vector<RemovedLine> WorkingCopy::hitung() {
         const Walk walk(*this);
         cds_sd.settle();
         cds_d.settle();
+        const data::KeptPlace line(cds_d);
+        const data::KeptPlace row(cds_sd);
         FormRunView view(*this);
         const double total = run::hitung(view, cds_m.real(u"round_value"));
         if (!cds_m.isEmpty()) {
@@ -204,8 +207,11 @@ std::vector<RemovedLine> WorkingCopy::hitung() {
             cds_m.post();
         }
         removed = hitung2(view);
+        if (line.restore())
+            row.restore();
     }
-    segarkan_rincian();
+    if (lineShown)
+        lineShown();
     return removed;
 }
 

@@ -47,10 +47,11 @@ public:
     void stamp();
 
     void deleteAllLines();
-    /// Adds the lines and rows of a computation behind what is there.
+    /// Adds the lines and rows of a computation behind what is there and goes to the first line.
     void appendRun(const Run& run);
 
-    /// Rounds, totals and cleans all lines, and puts the total into the header. Gives the lines that went.
+    /// Rounds, totals and cleans all lines, and puts the total into the header. The current line and row stay so, or
+    /// what took their place. Gives the lines that went.
     std::vector<RemovedLine> hitung();
 
     /// Earnings and deductions of the current line, each row rounded to whole rupiah.

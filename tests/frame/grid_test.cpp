@@ -83,6 +83,29 @@ TEST_F(Grid, ColumnsFitTheWidestOfCaptionAndTexts) {
     EXPECT_EQ(grid.columnWidth(0), metrics.horizontalAdvance(u"Nama"_qs) + 27);
 }
 
+TEST_F(Grid, StaysWhereItWasScrolledToThroughAWalkThatComesBack) {
+    for (int i = 0; i < 200; ++i) {
+        table.append();
+        table.setValue(u"nama", u"teks"_qs);
+        table.post();
+    }
+    table.goToRow(100);
+    QScrollBar& bar = *grid.verticalScrollBar();
+    bar.setValue(bar.value() + 2);
+    const int before = bar.value();
+    {
+        const data::ViewsOff off(table);
+        const data::KeptPlace place(table);
+        table.last();
+        table.first();
+        table.remove();
+        place.restore();
+    }
+    QApplication::processEvents();
+    EXPECT_EQ(grid.currentIndex().row(), 99);
+    EXPECT_EQ(bar.value(), before);
+}
+
 TEST_F(Grid, CellsKeepTheirColourOnTheCurrentRow) {
     grid.setCellColour(
         [](const CellInView& cell) { return cell.column.objectName() == u"b"_qs ? QColor(Qt::yellow) : QColor(); });

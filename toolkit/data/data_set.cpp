@@ -108,6 +108,18 @@ bool DataSet::goToBookmark(RowId record) {
     return row >= 0;
 }
 
+std::vector<RowId> DataSet::bookmarksFromHere() const {
+    return {m_table.rows().begin() + std::min(m_row, recordCount()), m_table.rows().end()};
+}
+
+bool KeptPlace::restore() const {
+    for (const RowId record : m_rest)
+        if (m_set.goToBookmark(record))
+            return record == m_rest.front();
+    m_set.last();
+    return false;
+}
+
 bool DataSet::locate(const Matches& matches, Qt::CaseSensitivity sensitivity) {
     requireOpen();
     settle();

@@ -79,6 +79,8 @@ public:
     [[nodiscard]] std::optional<RowId> bookmark() const;
     /// False, and nothing moves, where the record is gone or does not show up.
     bool goToBookmark(RowId record);
+    /// The names of the current record and of all behind it.
+    [[nodiscard]] std::vector<RowId> bookmarksFromHere() const;
 
     /// Moves to the first record that matches; false, and nothing moves, where there is none.
     bool locate(const Matches& matches, Qt::CaseSensitivity sensitivity = Qt::CaseSensitive);
@@ -203,6 +205,20 @@ private:
     QStringList m_order;
     int m_viewsOff = 0;
     bool m_viewsMissed = false;
+};
+
+/// Remembers which record is current, for a walk that moves the cursor and deletes records.
+class KeptPlace final {
+public:
+    explicit KeptPlace(DataSet& set) : m_set(set), m_rest(set.bookmarksFromHere()) {}
+
+    /// Makes the record current again, or where it is gone the one that took its place: the next behind it, else the
+    /// last. True for the record itself.
+    bool restore() const;
+
+private:
+    DataSet& m_set;
+    std::vector<RowId> m_rest;
 };
 
 /// While one lives, the views of the set are told nothing; the end of the outermost refreshes them once.
