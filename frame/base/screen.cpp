@@ -32,8 +32,8 @@ void Screen::showEvent(QShowEvent* event) {
         QMetaObject::invokeMethod(
             this,
             [this] {
-                // A screen that could not be opened is of no use to anybody.
-                if (!runHandler(this, [this] { FormActivate(); }))
+                // One that could not be opened is of no use to anybody.
+                if (isVisible() && !runHandler(this, [this] { FormActivate(); }))
                     done(Rejected);
             },
             Qt::QueuedConnection);

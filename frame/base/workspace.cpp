@@ -1,12 +1,12 @@
 #include "frame/base/workspace.h"
 
+#include "toolkit/ui/data_label.h"
 #include "toolkit/ui/enter_key.h"
 #include "toolkit/ui/handler.h"
 
 #include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QHBoxLayout>
-#include <QLabel>
 
 #include <chrono>
 #include <utility>
@@ -25,7 +25,7 @@ void Workspace::showEvent(QShowEvent* event) {
     QMetaObject::invokeMethod(
         this,
         [this] {
-            if (!runHandler(this, [this] { FormActivate(); }))
+            if (isVisible() && !runHandler(this, [this] { FormActivate(); }))
                 close();
         },
         Qt::QueuedConnection);
@@ -49,7 +49,7 @@ void Workspace::keyPressEvent(QKeyEvent* event) {
         QWidget::keyPressEvent(event);
 }
 
-WorkspaceTitle::WorkspaceTitle(QWidget* parent) : QWidget(parent), m_caption(new QLabel) {
+WorkspaceTitle::WorkspaceTitle(QWidget* parent) : QWidget(parent), m_caption(new DataLabel) {
     m_caption->setObjectName(QStringLiteral("lbl_caption"));
     auto* close = new QToolButton;
     close->setObjectName(QStringLiteral("btn_close"));

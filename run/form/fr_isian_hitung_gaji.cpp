@@ -89,7 +89,7 @@ void Tfrm_isian_hitung_gaji::set_up() {
                               {u"dbg_sdcom_name"_qs, u"com_name"_qs, u"Nama komponen"_qs},
                               {u"dbg_sdjenis"_qs, u"jenis"_qs, u"+ / -"_qs},
                               {u"dbg_sdsubtot_payroll"_qs, u"subtot_payroll"_qs, u"Nilai uang"_qs, Show::Money},
-                              {u"dbg_sdjml_faktor"_qs, u"jml_faktor"_qs, u"Faktor"_qs}});
+                              {u"dbg_sdjml_faktor"_qs, u"jml_faktor"_qs, u"Faktor"_qs, Show::Factor}});
     m_ui->dbg_grp->setDataSet(&cds_grp);
     m_ui->dbg_kom->setDataSet(&cds_komp);
     m_ui->dbg_d->setDataSet(&m_copy.cds_d);
@@ -142,7 +142,11 @@ void Tfrm_isian_hitung_gaji::connect_handlers() {
     connect(m_ui->dbg_kom, &DataGrid::toggled, this, [this](const QString&, const QString& text) {
         runHandler(this, [this, text] { dbg_kompilihToggleClick(text); });
     });
-    connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* now) { pnl_empExit(now); });
+    // No action of the person, so it leaves the notice bar alone; guarded as onEvent guards.
+    connect(qApp, &QApplication::focusChanged, this, [screen = static_cast<QObject*>(this)](QWidget*, QWidget* now) {
+        if (auto* alive = qobject_cast<Self*>(screen))
+            alive->pnl_empExit(now);
+    });
 }
 
 void Tfrm_isian_hitung_gaji::FormActivate() {

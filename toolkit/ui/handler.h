@@ -59,12 +59,12 @@ bool runHandler(QWidget* screen, Action action) {
 }
 
 /// Connects a signal with a screen's handler, guarded by runHandler.
-template <typename Sender, typename Signal, typename Screen>
-void onEvent(Sender* sender, Signal signal, Screen* screen, void (Screen::*handler)()) {
+template <typename Sender, typename Signal, typename Screen, typename... Arguments>
+void onEvent(Sender* sender, Signal signal, Screen* screen, void (Screen::*handler)(Arguments...)) {
     // A screen that is being destroyed is no longer of its class when the last of its fields loses the focus.
     QObject* receiver = screen;
-    QObject::connect(sender, signal, screen, [receiver, handler] {
+    QObject::connect(sender, signal, screen, [receiver, handler](Arguments... arguments) {
         if (auto* alive = qobject_cast<Screen*>(receiver))
-            runHandler(alive, [alive, handler] { (alive->*handler)(); });
+            runHandler(alive, [alive, handler, arguments...] { (alive->*handler)(arguments...); });
     });
 }
