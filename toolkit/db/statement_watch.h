@@ -11,7 +11,7 @@ public:
 
     virtual ~StatementWatch() = default;
     /// Called some twenty times a second while nothing comes from the server. A wish to cancel is to be repeated until
-    /// ended(). May let events run; a statement on the connection that waits is refused meanwhile.
+    /// ended(). May let events run; other statements of the thread are refused meanwhile.
     [[nodiscard]] virtual Wish waiting() = 0;
     /// The statement has ended, in whichever way; called once where waiting() was.
     virtual void ended() = 0;

@@ -22,8 +22,8 @@ thread_local Connection::Wait* Connection::Wait::s_innermost = nullptr;
 Connection::Wait::Wait(Connection& connection, Phase phase) :
     m_connection(connection), m_phase(phase), m_around(s_innermost), m_outer(connection.m_wait),
     m_outcome(m_outer ? m_outer->m_outcome : m_own) {
-    if (m_outer && phase == Phase::Answering)
-        throw Fault(0, {}, QStringLiteral("The connection still waits for the answer to another statement"), {});
+    if (phase == Phase::Answering && m_around && !connection.m_isSecond)
+        throw Fault(0, {}, QStringLiteral("The answer to another statement is still awaited"), {});
     if (phase == Phase::Connecting && !m_outcome.cancelled)
         m_outcome.givenUp.clear();
     s_innermost = connection.m_wait = this;

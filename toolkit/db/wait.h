@@ -14,7 +14,8 @@ public:
     /// was given up; only a person's wish lasts.
     enum class Phase { Connecting, Sending, Answering };
 
-    /// Throws Fault where an answer is awaited already: an event that arrived meanwhile wants the same connection.
+    /// Throws Fault where the thread awaits an answer already, also of another connection: what an event asks for that
+    /// arrives meanwhile does not belong into the middle of a handler.
     Wait(Connection& connection, Phase phase);
     ~Wait();
     Wait(const Wait&) = delete;
