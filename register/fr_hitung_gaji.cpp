@@ -256,7 +256,7 @@ void Tfrm_hitung_gaji::btn_editClick() {
 void Tfrm_hitung_gaji::btn_hapusClick() {
     if (frame::askForTicked(cds_m, m_services.messages, this, yakin_hapus, [this] { delete_current_run(); })) {
         open_list();
-        data::dropFault("the lists below the register after a deletion", [this] { dbg_mClick(); });
+        fault::dropFault("daftar di bawah daftar perhitungan", [this] { dbg_mClick(); });
     }
 }
 

@@ -25,8 +25,8 @@ public:
 
     /// Ends a pending edit, then sends deletes, updates, inserts, in this order and many rows at a time, in one
     /// transaction. An update writes only what differs from the loaded row; a row edited back sends nothing. Rows may
-    /// exchange their keys. Throws what db::inTransaction throws. All is still pending then, and nothing is stored; only
-    /// after db::CommitUnknown it may be.
+    /// exchange their keys. Throws what db::inTransaction throws. All is still pending then, and nothing is stored;
+    /// only after db::CommitUnknown it may be.
     void applyUpdates();
 
     // The same for several copies in one transaction of the caller's: send each, commit, then tell each.

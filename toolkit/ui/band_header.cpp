@@ -66,7 +66,7 @@ void BandHeader::paintSection(QPainter* painter, const QRect& rect, int column) 
     painter->setClipRect(upper);
     style()->drawControl(QStyle::CE_HeaderSection, &option, painter, this);
     // The caption stands over the part that can be seen.
-    style()->drawItemText(painter, whole & viewport()->rect(), Qt::AlignCenter, palette(), isEnabled(),
-                          band->caption(), QPalette::ButtonText);
+    style()->drawItemText(painter, whole & viewport()->rect(), Qt::AlignCenter, palette(), isEnabled(), band->caption(),
+                          QPalette::ButtonText);
     painter->restore();
 }
