@@ -100,18 +100,3 @@ TEST_F(Find, BookmarksFindTheirRecordUntilItIsGone) {
     set.remove();
     EXPECT_FALSE(set.goToBookmark(mark));
 }
-
-TEST_F(Find, AKeptPlaceIsThatOfTheRecordOrOfWhatTookIt) {
-    set.goToRow(1);
-    const data::KeptPlace place(set);
-    const auto restored = [&] { return (place.restore() ? "same " : "other ") + listing(set); };
-    set.first();
-    set.remove();
-    EXPECT_EQ(restored(), "same [2 pokok] | 1 Makan | 2 Makan | 1 NULL");
-    set.remove();
-    EXPECT_EQ(restored(), "other [1 Makan] | 2 Makan | 1 NULL");
-    set.setFilter(u"line"_s, 2);
-    EXPECT_EQ(restored(), "other [2 Makan]");
-    set.setFilter(u"line"_s, 7);
-    EXPECT_EQ(restored(), "other ");
-}

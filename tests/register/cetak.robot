@@ -36,3 +36,10 @@ forms
 click btn_cetak
 menu "Slip penggajian"
 report
+close frm_preview
+echo a caption that fills the page leaves no room for the report
+#: app insert into change_lang (com_form, com_name, indonesia) values ('frm_hitung_gaji', 'ppl_dari', repeat('W', 145))
+click btn_select_all
+click btn_cetak
+menu "Rekap penggajian"
+forms

@@ -5,8 +5,6 @@
 #: main update emp set first_name='<img src=/etc/hostname>&Cari', last_name=repeat('W', 200) where emp_id_auto=1;
 #:+ update emp set first_name='<b>x</b> 🙂𐐀', last_name='محمد' where emp_id_auto=2;
 #:+ update z_pay_com set com_name='<font color=red>&Gaji</font>' where com_id=10;
-#:+ update dept set dept_name='<h1>PT</h1> & Co' where dept_id_auto=1;
-#:+ update z_pay_grp_com set min_if=0, nilai_rp=4750300 where com_id=10;
 #:+ insert into z_pay_process_m (process_id, process_name, date1, date2, round_value) values
 #:+   (1, repeat('<b>N</b>', 31), '2026-10-06', '2026-10-31', 5000000);
 #:+ insert into z_pay_process_d (process_id, no_urut, emp_id_auto, tot_payroll) values (1, 1, 1, 100), (1, 2, 2, 200), (1, 3, 5, 300);
@@ -18,7 +16,6 @@ click Image2
 row dbg_m #1
 get lbl_emp_isi
 get lbl_tunjangan_isi
-state btn_cetak
 tick dbg_m *
 click btn_edit
 get lbl_nama_emp
