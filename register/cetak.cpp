@@ -18,7 +18,7 @@
 namespace {
 
 const frame::MessageText pilih_data{u"frm_hitung_gaji"_qs, 3, u"Pilih data yang akan dicetak."_qs};
-const frame::MessageText tidak_muat{u"frm_hitung_gaji"_qs, 4,
+const frame::MessageText tidak_muat{u"frm_hitung_gaji"_qs, 5,
                                     u"Judul dan kaki halaman terlalu tinggi, tidak ada tempat untuk isi laporan."_qs};
 
 } // namespace

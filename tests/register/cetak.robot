@@ -37,6 +37,15 @@ click btn_cetak
 menu "Slip penggajian"
 report
 close frm_preview
+echo employees whose PINs are no numbers follow by their keys
+#: main insert into emp (emp_id_auto, pin, emp_status) values (8, 'A', 1), (7, 'B', 1), (6, 'C', 1);
+#:+ insert into z_pay_process_d (process_id, no_urut, emp_id_auto, tot_payroll) values (2, 1, 7, 1), (2, 2, 6, 1), (2, 3, 8, 1)
+row dbg_m process_name=Kosong
+grid dbg_d
+click btn_cetak
+menu "Rekap penggajian"
+report
+close frm_preview
 echo a caption that fills the page leaves no room for the report
 #: app insert into change_lang (com_form, com_name, indonesia) values ('frm_hitung_gaji', 'ppl_dari', repeat('W', 145))
 click btn_select_all
