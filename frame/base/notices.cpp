@@ -48,7 +48,9 @@ void Notices::readTexts() {
         data::SqlQuery& sql = m_services.session.sql_temp_lang;
         sql.openSql(u"select * from change_lang where com_form='"_s + formName + u"' "_s);
         for (; !sql.isEof(); sql.next())
-            m_texts.insert(sql.text(u"com_name"), sql.text(m_services.language.lang_column()));
+            // Two apostrophes stand where a text was not translated.
+            if (const QString text = sql.text(m_services.language.lang_column()); !text.isEmpty() && text != u"''"_s)
+                m_texts.insert(sql.text(u"com_name"), text);
     });
 }
 
@@ -74,10 +76,14 @@ void Notices::tell() {
         m_soon.start();
         return;
     }
-    NoticeBar& bar = NoticeBar::of(screenInFront());
+    int times = 0;
     for (Dropped& dropped : m_fresh) {
+        times += dropped.times;
         dropped.hal = m_texts.value(dropped.hal, dropped.hal);
-        bar.tellDropped(txt_dilewati.text() + dropped.hal + u" - "_s + dropped.kata, dropped.times);
+    }
+    const Dropped& first = m_fresh.front();
+    NoticeBar::of(screenInFront()).tellDropped(txt_dilewati.text() + first.hal + u" - "_s + first.kata, times);
+    for (Dropped& dropped : m_fresh) {
         if (dropped.times > 1)
             dropped.kata += u" (%1x)"_s.arg(dropped.times);
         m_list.push_front(dropped);

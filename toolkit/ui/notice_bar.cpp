@@ -57,7 +57,6 @@ NoticeBar::NoticeBar(QWidget& host) :
     connect(m_button, &QToolButton::clicked, this, [this] { showingFaults(window(), m_notice.more); });
     connect(close, &QToolButton::clicked, this, [this] {
         m_isOld = true;
-        dropOld();
         hide();
     });
     auto* layout = new QHBoxLayout(this);
