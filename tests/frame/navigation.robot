@@ -47,7 +47,6 @@ click btn_batal_tunggu
 watch
 click btn_cari
 key Esc
-get edt_filter
 grid dbg_rekap
 #: main create or replace view cabang as select * from cabang_asli
 click btn_cari

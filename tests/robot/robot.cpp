@@ -69,7 +69,7 @@ bool Robot::canStopStatement() {
 bool Robot::mustWait() const {
     if (m_dialogs.isAnswering())
         return true;
-    if (m_watching && canStopStatement())
+    if (m_watching && m_running.size() <= 1 && canStopStatement())
         return false;
     // A command is still at work unless it has put a new window in front of the person.
     QWidget* front = frontWindow();
