@@ -247,10 +247,12 @@ void Tfrm_hitung_gaji::btn_editClick() {
     const int process_id = cds_m.integer32(u"process_id");
     data::SqlQuery& sql = m_services.session.sql_cek;
     sql.openSql(QStringLiteral("select process_id from z_pay_process_m where process_id=%1 ").arg(process_id));
-    if (sql.isEmpty())
-        m_services.messages.inform(this, sudah_dihapus);
-    else
+    if (!sql.isEmpty()) {
         open_form({.mode = RunFormTask::Edit, .process_id = process_id});
+        return;
+    }
+    m_services.messages.inform(this, sudah_dihapus);
+    btn_cariClick();
 }
 
 void Tfrm_hitung_gaji::btn_hapusClick() {

@@ -123,9 +123,9 @@ state lbl_jumlah_benar
 #: main update z_pay_process_d set tot_payroll=3250000000 where process_id=3
 set dtp_tgl_aw 2026-10-01
 click btn_cari
-row dbg_m process_name=Bulat
+row dbg_m process_name=Bentrok
 get lbl_jumlah_benar
-tick dbg_m process_name=Bulat
+tick dbg_m process_name=Bentrok
 click btn_edit
 get lbl_total
 get lbl_jumlah_benar

@@ -114,9 +114,14 @@ Result Connection::query(const QString& sql) {
     openAsNeeded(sql);
     try {
         return fetch(sql);
-    } catch (const Fault& fault) {
-        if (m_inTransaction || !fault.isConnectionLoss())
+    } catch (const Fault& lost) {
+        if (m_inTransaction || !lost.isConnectionLoss())
             throw;
+        try {
+            openAsNeeded(sql);
+        } catch (const Fault&) {
+            throw lost; // the first fault tells more
+        }
     }
     return fetch(sql);
 }

@@ -105,7 +105,7 @@ void NoticeBar::display() {
         parts << m_notice.text;
     if (!m_dropped.isEmpty())
         parts << m_dropped + (m_furtherDropped > 0 ? QStringLiteral(" (+%1)").arg(m_furtherDropped) : QString());
-    m_label->setText(parts.join(QStringLiteral("  |  ")));
+    m_label->setText(parts.join(QStringLiteral(" | ")));
     m_button->setText(m_notice.moreCaption);
     m_button->setVisible(bool(m_notice.more));
     show();
