@@ -171,8 +171,11 @@ void Tfrm_hitung_gaji::open_list() {
     FitGridColumns(*m_ui->dbg_m);
 }
 
+// What cannot be read must not leave the employees of one run below another.
 void Tfrm_hitung_gaji::open_employees() {
-    sql_d.reopen();
+    sql_d.close();
+    close_details();
+    sql_d.open();
     FitGridColumns(*m_ui->dbg_d);
     show_true_sum();
 }
@@ -190,9 +193,17 @@ void Tfrm_hitung_gaji::show_true_sum() {
     m_ui->lbl_jumlah_benar->setVisible(!differing.isEmpty());
 }
 
+void Tfrm_hitung_gaji::close_details() {
+    sql_sd.close();
+    sql_sd2.close();
+    m_ui->lbl_tunjangan_isi->clear();
+    m_ui->lbl_potongan_isi->clear();
+}
+
 void Tfrm_hitung_gaji::open_details() {
-    sql_sd.reopen();
-    sql_sd2.reopen();
+    close_details();
+    sql_sd.open();
+    sql_sd2.open();
     FitGridColumns(*m_ui->dbg_sd);
     FitGridColumns(*m_ui->dbg_sd2);
 }
@@ -256,10 +267,18 @@ void Tfrm_hitung_gaji::btn_editClick() {
 }
 
 void Tfrm_hitung_gaji::btn_hapusClick() {
-    if (frame::askForTicked(cds_m, m_services.messages, this, yakin_hapus, [this] { delete_current_run(); })) {
-        open_list();
-        fault::dropFault("daftar di bawah daftar perhitungan", [this] { dbg_mClick(); });
+    try {
+        if (frame::askForTicked(cds_m, m_services.messages, this, yakin_hapus, [this] { delete_current_run(); }))
+            show_what_is_left();
+    } catch (const std::exception&) {
+        fault::dropFault("penyegaran daftar perhitungan", [this] { show_what_is_left(); });
+        throw;
     }
+}
+
+void Tfrm_hitung_gaji::show_what_is_left() {
+    open_list();
+    fault::dropFault("daftar di bawah daftar perhitungan", [this] { dbg_mClick(); });
 }
 
 void Tfrm_hitung_gaji::delete_current_run() {
@@ -268,8 +287,13 @@ void Tfrm_hitung_gaji::delete_current_run() {
                                   isoDate(cds_m.date(u"date1")), isoDate(cds_m.date(u"date2")));
     m_services.audit.WriteUserLog(m_services.session.login_id, note, frame::payrollModule, m_services.session.clock());
     for (const char16_t* table : {u"z_pay_process_sd", u"z_pay_process_d", u"z_pay_process_m"})
-        fault::dropFault("penghapusan data perhitungan gaji", [&] {
+        try {
             m_services.session.ADOCom_update.execute(QStringLiteral("Delete From %1 Where process_id=%2 ")
                                                          .arg(QString::fromUtf16(table), cds_m.text(u"process_id")));
-        });
+        } catch (const db::Fault& refused) {
+            // Whoever stops a deletion means all of it. The header goes last, so the run can still be seen.
+            if (refused.isInterrupted())
+                throw;
+            fault::reportDroppedFault("penghapusan data perhitungan gaji", refused);
+        }
 }

@@ -53,7 +53,9 @@ private:
     [[nodiscard]] QString kondisi() const;
     void open_list();
     void open_employees();
+    void close_details();
     void open_details();
+    void show_what_is_left();
     void show_sums(const QString& between);
     void show_true_sum();
     void delete_current_run();

@@ -5,6 +5,8 @@
 #include "toolkit/text/number_text.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
 
 namespace run {
 
@@ -32,6 +34,25 @@ qint32 raisedToUnit(qint32 net, qint32 unit) {
         return net;
     const qint32 remainder = net % unit;
     return remainder > 0 ? wrappedSum(wrappedDifference(net, remainder), unit) : net;
+}
+
+std::set<int> employeesWithLine(const Run& computed, const std::vector<RemovedLine>& removed) {
+    std::vector<bool> isRemoved(computed.lines.size());
+    for (const RemovedLine& gone : removed)
+        isRemoved[std::size_t(gone.line)] = true;
+    std::set<int> employees;
+    for (std::size_t line = 0; line < computed.lines.size(); ++line)
+        if (!isRemoved[line])
+            employees.insert(computed.lines[line].emp_id_auto);
+    return employees;
+}
+
+WhyLeftOut whyRemoved(const Line& line, const RemovedLine& gone) {
+    if (!line.fault.isEmpty())
+        return WhyLeftOut::Fault;
+    if (!line.isRuled)
+        return WhyLeftOut::NoRule;
+    return gone.hasDeductions ? WhyLeftOut::Deductions : WhyLeftOut::NothingPositive;
 }
 
 /// A run in memory as a view. Deleted lines stay in place until dropDeletedLines, since taking each out of the middle
@@ -109,14 +130,19 @@ std::vector<RemovedLine> hitung(Run& run, double round_value) {
 }
 
 std::vector<LeftOut> leftOut(const Run& computed, const std::vector<RemovedLine>& removed) {
+    const std::set<int> paid = employeesWithLine(computed, removed);
     std::vector<LeftOut> people;
+    std::map<int, std::size_t> places; // by employee: somebody in two groups has two lines
     for (auto gone = removed.rbegin(); gone != removed.rend(); ++gone) {
         const Line& line = computed.lines[std::size_t(gone->line)];
-        const WhyLeftOut why = !line.fault.isEmpty() ? WhyLeftOut::Fault
-                               : !line.isRuled       ? WhyLeftOut::NoRule
-                               : gone->hasDeductions ? WhyLeftOut::Deductions
-                                                     : WhyLeftOut::NothingPositive;
-        people.push_back({line.pin, line.nik, line.nama, why, line.fault});
+        if (paid.contains(line.emp_id_auto))
+            continue;
+        const LeftOut person{line.pin, line.nik, line.nama, whyRemoved(line, *gone), line.fault};
+        const auto [place, isFirst] = places.try_emplace(line.emp_id_auto, people.size());
+        if (isFirst)
+            people.push_back(person);
+        else if (person.why < people[place->second].why)
+            people[place->second] = person;
     }
     return people;
 }

@@ -55,7 +55,7 @@ struct LeftOut {
     QString fault;
 };
 
-/// Who they are, in the order of the run; computed: the run as it was before lines were deleted.
+/// Who has no line at all, each once, in the order of the run; computed: the run as it was before lines were deleted.
 [[nodiscard]] std::vector<LeftOut> leftOut(const Run& computed, const std::vector<RemovedLine>& removed);
 
 /// The text of what the lines add up to, behind its caption; empty where the stored total shows the same. A total

@@ -110,9 +110,9 @@ void insertRoot(Session& session, QTreeWidgetItem* top) {
 } // namespace
 
 void FillDeptTree(TreeBox& box, Session& session) {
+    const std::vector<Department> departments = readDepartments(session);
     box.clearTree();
     QTreeWidgetItem* top = box.tree().invisibleRootItem();
-    const std::vector<Department> departments = readDepartments(session);
     if (departments.empty())
         insertRoot(session, top);
     else

@@ -116,6 +116,7 @@ QString FilterBlock::text() const {
 }
 
 void FilterBlock::showControlOf(int index) {
+    m_shown = index;
     for (QWidget* control : std::as_const(m_controls))
         control->hide();
     for (QWidget* control : m_controls.values(index))
@@ -123,7 +124,12 @@ void FilterBlock::showControlOf(int index) {
 }
 
 void FilterBlock::cmb_filterCloseUp() {
-    fillTree();
+    try {
+        fillTree();
+    } catch (const std::exception&) {
+        m_ui->cmb_filter->setCurrentIndex(m_shown);
+        throw;
+    }
     for (LookupBox* box : {m_ui->lookup_cab, m_ui->lookup_jbt})
         box->clearChoice();
     m_filter_cab_id = 0;
@@ -193,12 +199,10 @@ QString FilterBlock::conditionByKey() const {
 
 QString FilterBlock::conditionByName() const {
     QString condition = textCondition();
-    const Branch& limit = m_session->session_cab_id;
-    const bool within = !limit.isLimited() || m_filter_cab_id == limit.cab_id_auto();
-    if (!m_ui->lookup_cab->text().isEmpty() && m_filter_cab_id != 0 && within)
+    if (!m_ui->lookup_cab->text().isEmpty() && m_filter_cab_id != 0)
         condition += QStringLiteral(" and cab_name=") + quotedSqlText(m_ui->lookup_cab->text()) + u' ';
-    else // A limit without a name to search by still limits.
-        condition += limit.furtherCondition();
+    // The name alone would let branches through that are called alike.
+    condition += m_session->session_cab_id.furtherCondition();
     condition += deptCondition();
     if (!m_ui->lookup_jbt->text().isEmpty() && m_filter_func_id != 0)
         condition += QStringLiteral(" and func_name=") + quotedSqlText(m_ui->lookup_jbt->text()) + u' ';

@@ -83,6 +83,7 @@ private:
     data::SqlQuery* sql_cab = nullptr;
     data::SqlQuery* sql_jbt = nullptr;
     QMultiMap<int, QWidget*> m_controls; ///< by the place of their field
+    int m_shown = Semua;                 ///< the field whose control shows
     qint32 m_filter_cab_id = 0;          ///< branch chosen in lookup_cab, 0 for none
     qint32 m_filter_func_id = 0;         ///< function chosen in lookup_jbt, 0 for none
     QString m_filter_dept_path;

@@ -2,6 +2,7 @@
 
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/sql_text.h"
+#include "toolkit/ui/handler.h"
 
 #include <utility>
 
@@ -68,6 +69,7 @@ int Messages::show(MessageDialog& dialog, QWidget* screen, const MessageText& me
 }
 
 void Messages::error(QWidget* screen, const MessageText& message) {
+    ActionRefusal::note();
     show(Msd_Error, screen, message);
 }
 

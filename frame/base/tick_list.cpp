@@ -1,5 +1,7 @@
 #include "frame/base/tick_list.h"
 
+#include <QScopeGuard>
+
 namespace frame {
 
 namespace {
@@ -41,13 +43,15 @@ void setTicks(data::DataSet& list, TickWish wish, const TickToggled& toggled) {
 void forEachTicked(data::DataSet& list, const std::function<void()>& action) {
     const data::ViewsOff off(list);
     const int row = list.row();
+    const auto goBack = qScopeGuard([&] { list.goToRow(row); });
     for (list.first(); !list.isEof(); list.next())
         if (isTicked(list))
             action();
-    list.goToRow(row);
 }
 
 bool goToOnlyTicked(data::DataSet& list, Messages& messages, QWidget* screen, const MessageText& several) {
+    if (list.isEmpty())
+        return false;
     int count = 0;
     int row = 0;
     forEachTicked(list, [&] {

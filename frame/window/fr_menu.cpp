@@ -234,7 +234,7 @@ void Tfrm_menu::btn_userlogClick() {
 }
 
 void Tfrm_menu::Timer1Timer() {
-    if (HandlersWait::isOn()) {
+    if (HandlersWait::isOn() || QApplication::activeModalWidget()) {
         Timer1.start();
         return;
     }

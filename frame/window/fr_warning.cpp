@@ -41,7 +41,14 @@ Tfrm_warning::Tfrm_warning(frame::Language& language) :
 Tfrm_warning::~Tfrm_warning() = default;
 
 void Tfrm_warning::fitToDrawing() {
-    setFixedSize(fontMetrics().height() * guideSize);
+    // A large font on a small screen would make it cover what it explains.
+    const QSize room = screen()->availableSize();
+    const int line = std::min(
+        {fontMetrics().height(), room.width() * 3 / 5 / guideSize.width(), room.height() / 2 / guideSize.height()});
+    QFont font = this->font();
+    font.setPixelSize(QFontInfo(font).pixelSize() * line / fontMetrics().height());
+    setFont(font);
+    setFixedSize(line * guideSize);
     const auto setShare = [this](QWidget* strip, int share) {
         strip->setFixedHeight(height() * share / drawingHeight);
     };
@@ -73,11 +80,21 @@ void Tfrm_warning::showEvent(QShowEvent* event) {
 // Some window systems make every new window the active one, a moment after it is shown; the user's stays it. Asking for
 // the focus without need would take it from a menu or a screen that has just been opened.
 bool Tfrm_warning::event(QEvent* event) {
+    // Under a modal window it could neither be moved nor closed, and would lie above it all the same.
+    if (event->type() == QEvent::WindowBlocked)
+        vanish();
     if (event->type() == QEvent::WindowActivate && m_active) {
         QWidget* modal = QApplication::activeModalWidget();
         (modal ? modal : m_active.data())->activateWindow();
     }
     return QWidget::event(event);
+}
+
+void Tfrm_warning::vanish() {
+    fadeTimer.stop();
+    m_state = State::FadingOut;
+    m_opacity = 0;
+    close();
 }
 
 void Tfrm_warning::fadeTimerTimer() {

@@ -39,6 +39,7 @@ private:
     void fitToDrawing();
     void moveToCorner(const QScreen& screen);
     void fadeTimerTimer();
+    void vanish();
     void grip(const QMouseEvent& event);
 
     std::unique_ptr<Ui::frm_warning> m_ui;

@@ -247,11 +247,19 @@ void Tfrm_isian_hitung_gaji::btn_prosesClick() {
     m_copy.cds_m.settle();
     run::Run run;
     const run::Notice notice = compute(run);
-    if (notice == run::Notice::NoEmployees)
-        m_services.messages.inform(this, tidak_ada_karyawan);
-    else if (notice == run::Notice::MoreThan200Employees)
-        m_services.messages.inform(this, lebih_200);
+    // A message that cannot be looked up must not leave the lines without their totals.
+    std::exception_ptr untold;
+    try {
+        if (notice == run::Notice::NoEmployees)
+            m_services.messages.inform(this, tidak_ada_karyawan);
+        else if (notice == run::Notice::MoreThan200Employees)
+            m_services.messages.inform(this, lebih_200);
+    } catch (const std::exception&) {
+        untold = std::current_exception();
+    }
     show_left_out(leftOut(run, hitung()));
+    if (untold)
+        std::rethrow_exception(untold);
 }
 
 void Tfrm_isian_hitung_gaji::btn_hitungClick() {

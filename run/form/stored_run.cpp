@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <limits>
+
 namespace run {
 
 namespace {
@@ -53,7 +55,10 @@ void deleteStoredRun(db::Connection& main, int process_id) {
 int lockNextProcessId(db::Connection& main) {
     db::Result row = main.query(u"select max(process_id) from z_pay_process_m for update"_s);
     row.next();
-    return int(row.integer(0)) + 1;
+    const qint64 next = row.integer(0) + 1;
+    if (next > std::numeric_limits<qint32>::max())
+        throw db::Fault(0, {}, u"No number is left for another payroll run"_s, {});
+    return int(next);
 }
 
 } // namespace run

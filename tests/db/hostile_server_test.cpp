@@ -152,7 +152,7 @@ TEST(AServerAfterThePassword, GetsProofsOfItOnly) {
         {"mysql_native_password", "dialog", false, 0},
         {"mysql_native_password", "sha256_password", false, 0},
         {"caching_sha2_password", "mysql_native_password", false, 20},
-        {"mysql_native_password", "caching_sha2_password", false, 32},
+        {"mysql_native_password", "caching_sha2_password", false, 0},
         {"mysql_native_password", "client_ed25519", false, 64},
         {"mysql_native_password", "client_ed25519", true, 64},
     };

@@ -124,12 +124,12 @@ TEST_F(Filter, LimitedSessionKeepsItsBranchAfterEachChange) {
     }
     block.select(FilterBlock::Cabang);
     EXPECT_EQ(block.conditionByKey(), QStringLiteral(" and cab_id_auto=3 "));
-    EXPECT_EQ(block.conditionByName(), QStringLiteral(" and cab_name='Cabang D''Or'  and dept_name like 'PT%' "));
+    EXPECT_EQ(block.conditionByName(), QStringLiteral(" and cab_name='Cabang D''Or' and cab_id_auto=3  and dept_name like 'PT%' "));
     // Neither a branch without a name nor one that is not known yet opens the search by name.
     for (const auto& [limit, condition] : {std::pair(frame::Branch::one(9), "and cab_id_auto=9 "),
                                            std::pair(frame::Branch(), "and cab_id_auto=NULL ")}) {
         company.services.session.session_cab_id = limit;
-        EXPECT_EQ(byName({FilterBlock::Cabang, "Pusat"}), condition + std::string(" and dept_name like 'PT%' "));
+        EXPECT_EQ(byName({FilterBlock::Cabang, "Pusat"}), " and cab_name='Pusat' " + (condition + std::string(" and dept_name like 'PT%' ")));
         EXPECT_EQ(block.baseCondition().toStdString(),
                   std::string("where emp_id_auto<>-1 and emp_status=0 ") + condition);
     }

@@ -108,7 +108,7 @@ Texts textsOfProgram() {
 /// What the guards of the program name as given up: the literals stand in the sources.
 Texts droppedThings() {
     Texts things;
-    const QRegularExpression guard(uR"re(fault::dropFault\((?:\s*"([^"]*)")?)re"_qs);
+    const QRegularExpression guard(uR"re(fault::(?:dropFault|reportDroppedFault)\((?:\s*"([^"]*)")?)re"_qs);
     for (QDirIterator file(QStringLiteral(ORVANE_SOURCES), {u"*.cpp"_qs, u"*.h"_qs}, QDir::Files,
                            QDirIterator::Subdirectories);
          file.hasNext();) {

@@ -41,8 +41,8 @@ TEST(ReadUserSetting, GivesTheValueExactlyOrAnEmptyText) {
         {"Admin User ID = \"\"\n", ""},
         {"Admin User ID=cabang é€😀\n", "cabang é€😀"},
         {"[General]\nOther=1\nAdmin User ID Old=2\n\nAdmin User ID=4\nAdmin User ID=5\n", "4"},
-        {"Admin User ID\n", ""},
-        {"Admin User ID : 3\n", ""},
+        {"Admin User ID=\n\"Admin  User ID\"=\"x:6\"\n", "x:6"},
+        {"Another User ID=7\n", ""},
         {"", ""},
     };
     const QTemporaryDir folder;
@@ -57,6 +57,12 @@ TEST(ReadUserSetting, IsRefusedByAFileThatIsThereAndCannotBeRead) {
     const QString file = folder.filePath(QStringLiteral("user.conf"));
     EXPECT_TRUE(QFile::link(QStringLiteral("/nowhere/at all"), file));
     EXPECT_THROW((void)ReadUserSetting(adminUserId, folder.path()), std::runtime_error) << "a link that leads nowhere";
+    EXPECT_TRUE(QFile::remove(file));
+    for (const QByteArray& content : {QByteArray("Admin User ID : 3\n"), QByteArray("AdminUserID\n"),
+                                      QByteArray(reinterpret_cast<const char*>(u"Admin User ID=3"), 30)}) {
+        writeConf(folder.path(), content);
+        EXPECT_THROW((void)ReadUserSetting(adminUserId, folder.path()), std::runtime_error) << content.toStdString();
+    }
     EXPECT_TRUE(QFile::remove(file) && QDir().mkdir(file));
     EXPECT_THROW((void)ReadUserSetting(adminUserId, folder.path()), std::runtime_error) << "no file";
 }

@@ -16,9 +16,11 @@ const QVariant nullValue;
 DataSet::DataSet(QObject* parent) : QObject(parent) {}
 
 void DataSet::open() {
-    if (isOpen())
-        return;
-    Rows rows = fetch();
+    if (!isOpen())
+        show(fetch());
+}
+
+void DataSet::show(Rows rows) {
     m_fields = std::move(rows.fields);
     m_table.load(std::move(rows.records));
     applyOrder();
@@ -44,8 +46,9 @@ void DataSet::close() {
 }
 
 void DataSet::reopen() {
+    Rows rows = fetch();
     close();
-    open();
+    show(std::move(rows));
 }
 
 void DataSet::first() {

@@ -46,6 +46,7 @@ public:
 
     void open();
     void close();
+    /// Where the new records cannot be had the set stays as it is.
     void reopen();
     [[nodiscard]] bool isOpen() const { return m_state != State::Inactive; }
     [[nodiscard]] State state() const { return m_state; }
@@ -166,6 +167,7 @@ private:
 
     [[nodiscard]] const Record* currentRecord() const;
     [[nodiscard]] Search searchOf(const Matches& matches) const;
+    void show(Rows rows);
     void applyFilter();
     void applyOrder();
     void requireWritable() const;

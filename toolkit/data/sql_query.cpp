@@ -49,9 +49,13 @@ SqlQuery::SqlQuery(db::Connection& connection, const QString& sql, QObject* pare
 }
 
 void SqlQuery::openSql(const QString& sql) {
-    close();
-    setSql(sql);
-    open();
+    const QString before = std::exchange(m_sql, sql);
+    try {
+        reopen();
+    } catch (const std::exception&) {
+        m_sql = before;
+        throw;
+    }
 }
 
 void SqlQuery::setParameter(const QString& name, const QVariant& value) {

@@ -16,7 +16,7 @@ public:
     /// Takes effect at the next open.
     void setSql(const QString& sql) { m_sql = sql; }
     [[nodiscard]] const QString& sql() const { return m_sql; }
-    /// Closes, takes the statement and opens.
+    /// Takes the statement and opens with it; a refused one leaves statement and rows as they were.
     void openSql(const QString& sql);
 
     void setParameter(const QString& name, const QVariant& value);

@@ -49,7 +49,7 @@ void Connection::connect(Encryption encryption) {
                             database.isEmpty() ? nullptr : database.constData(), m_settings.port, nullptr, 0))
         throw faultOf(session.get());
     keepAlive(session.get());
-    m_server = agreeOnSession(session.get());
+    m_identity = agreeOnSession(session.get());
     m_session = std::move(session);
 }
 

@@ -23,6 +23,12 @@ struct ConnectionSettings {
     QString database;
 };
 
+/// What a second session finds another one by.
+struct SessionIdentity {
+    QString server;    ///< tells the server from others
+    qint64 number = 0; ///< as the server itself counts; what the handshake said may be a go-between's number
+};
+
 /// How long a connection waits.
 struct Waits {
     std::chrono::seconds connect{5};
@@ -75,7 +81,6 @@ private:
 
     void connect(Encryption encryption);
     [[nodiscard]] int write(const QByteArray& utf8);
-    [[nodiscard]] qulonglong sessionNumber() const;
     void openSecond(Connection& second, Onlooker& onlooker) const;
     [[nodiscard]] Sign lookFromOutside() const;
     [[nodiscard]] bool killStatement() const;
@@ -88,7 +93,7 @@ private:
     ConnectionSettings m_settings;
     Waits m_waits;
     std::unique_ptr<st_mysql, Close> m_session;
-    QString m_server; ///< tells the server of the session from others
+    SessionIdentity m_identity;
     StatementWatch* m_watch = nullptr;
     Wait* m_wait = nullptr;  ///< of the statement that is under way
     bool m_isSecond = false; ///< opened beside a session that waits

@@ -4,8 +4,6 @@
 #include "toolkit/db/session_setup.h"
 #include "toolkit/db/statement_watch.h"
 
-#include <mysql.h>
-
 namespace db {
 
 /// Keeps the watch of the first session informed; what it wishes is for that one alone.
@@ -39,10 +37,10 @@ Connection::Sign Connection::lookFromOutside() const {
         Connection second;
         openSecond(second, onlooker);
         // Behind one address there may be several servers, and each counts its sessions by itself.
-        if (second.m_server != m_server)
+        if (second.m_identity.server != m_identity.server)
             return Sign::Unknown;
         Result found = second.query(
-            QStringLiteral("select command from information_schema.processlist where id=%1").arg(sessionNumber()));
+            QStringLiteral("select command from information_schema.processlist where id=%1").arg(m_identity.number));
         if (!found.next())
             return Sign::Gone;
         return found.text(0) == u"Sleep" ? Sign::Idle : Sign::AtWork;
@@ -57,17 +55,13 @@ bool Connection::killStatement() const {
         Onlooker onlooker(m_watch);
         Connection second;
         openSecond(second, onlooker);
-        if (second.m_server != m_server)
+        if (second.m_identity.server != m_identity.server)
             return false;
-        second.execute(QStringLiteral("kill query %1").arg(sessionNumber()));
+        second.execute(QStringLiteral("kill query %1").arg(m_identity.number));
         return true;
     } catch (const Fault&) {
         return false;
     }
-}
-
-qulonglong Connection::sessionNumber() const {
-    return mysql_thread_id(m_session.get());
 }
 
 } // namespace db

@@ -1,6 +1,6 @@
 #include "toolkit/db/session_setup.h"
 
-#include "toolkit/db/result.h"
+#include "toolkit/db/connection.h"
 
 #include <mysql.h>
 
@@ -15,9 +15,9 @@ namespace db {
 
 namespace {
 
-/// The server chooses how the user proves who he is. Of the library's ways these never send the password itself over a
-/// connection that is not encrypted; the others hand it to whoever asks.
-constexpr char authentication[] = "mysql_native_password,client_ed25519,caching_sha2_password";
+/// The server chooses how the user proves who he is. Of the library's ways these never send the password itself; the
+/// others hand it, or a key to it, to whoever asks.
+constexpr char authentication[] = "mysql_native_password,client_ed25519";
 
 // Quiet for ten seconds, then three questions: a peer that is gone is noticed after 25.
 constexpr int keepAliveIdle = 10;
@@ -49,6 +49,8 @@ void setOptions(st_mysql* session, std::chrono::seconds connect, Encryption encr
     mysql_options(session, MYSQL_OPT_PROTOCOL, &protocol);
     mysql_options(session, MYSQL_SET_CHARSET_NAME, "utf8mb4");
     mysql_options(session, MARIADB_OPT_RESTRICTED_AUTH, authentication);
+    // To begin with, whatever way the server prefers: it then names the one that the user's account has.
+    mysql_options(session, MYSQL_DEFAULT_AUTH, "mysql_native_password");
     // A server may answer any statement by asking for a file of this machine.
     const unsigned no = 0;
     mysql_options(session, MYSQL_OPT_LOCAL_INFILE, &no);
@@ -84,13 +86,13 @@ QString unsafeIn(const SessionValues& values) {
     return {};
 }
 
-QString agreeOnSession(st_mysql* session) {
+SessionIdentity agreeOnSession(st_mysql* session) {
     // Servers can be told to disregard what the handshake says of the character set. The empty mode: the tables' users
     // rely on lax servers, too long texts are cut, and statements mix count(*) with columns.
     run(session, "SET NAMES utf8mb4");
     run(session, "SET SESSION sql_mode='', autocommit=1");
     run(session, "SELECT @@character_set_client, @@character_set_connection, @@character_set_results, @@sql_mode, "
-                 "concat_ws(':', @@hostname, @@port, @@server_id)");
+                 "concat_ws(':', @@hostname, @@port, @@server_id), connection_id()");
     MYSQL_RES* rows = mysql_store_result(session);
     if (!rows)
         throw faultOf(session);
@@ -99,7 +101,7 @@ QString agreeOnSession(st_mysql* session) {
     const QString fault = unsafeIn({values.text(0), values.text(1), values.text(2), values.text(3)});
     if (!fault.isEmpty())
         throw Fault(0, {}, QStringLiteral("Texts are not safe on this server: %1").arg(fault), {});
-    return values.text(4);
+    return {values.text(4), values.integer(5)};
 }
 
 } // namespace db

@@ -10,6 +10,7 @@ struct st_mysql;
 
 namespace db {
 
+struct SessionIdentity;
 enum class Encryption { WhereOffered, None };
 
 /// What the client library, or the server through it, said last.
@@ -35,7 +36,7 @@ struct SessionValues {
 [[nodiscard]] QString unsafeIn(const SessionValues& values);
 
 /// Gives an open session the character set and the mode that statements are written for, and makes sure of them.
-/// Gives what tells this server from others. Throws Fault.
-[[nodiscard]] QString agreeOnSession(st_mysql* session);
+/// Throws Fault.
+[[nodiscard]] SessionIdentity agreeOnSession(st_mysql* session);
 
 } // namespace db

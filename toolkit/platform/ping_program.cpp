@@ -20,17 +20,11 @@ QString dotted(in_addr address) {
     return QString::fromLatin1(text.data());
 }
 
-} // namespace
+constexpr int answered = 0;
+constexpr int notSent = 2;
 
-// Fixed places: a search path is the caller's to set.
-QString installedPing() {
-    for (const QString& path : {QStringLiteral("/usr/bin/ping"), QStringLiteral("/bin/ping")})
-        if (QFileInfo(path).isFile() && QFileInfo(path).isExecutable())
-            return path;
-    return {};
-}
-
-bool pingByProgram(const QString& program, in_addr address, std::chrono::milliseconds timeout) {
+/// What the program said of one echo.
+int exitCode(const QString& program, in_addr address, std::chrono::milliseconds timeout) {
     const QString seconds = QString::number(double(timeout.count()) / 1000);
     QProcessEnvironment environment;
     environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
@@ -42,8 +36,26 @@ bool pingByProgram(const QString& program, in_addr address, std::chrono::millise
     ping.start(program, {QStringLiteral("-n"), QStringLiteral("-q"), QStringLiteral("-c"), QStringLiteral("1"),
                          QStringLiteral("-s"), QStringLiteral("100"), QStringLiteral("-p"), QStringLiteral("aa"),
                          QStringLiteral("-t"), QStringLiteral("64"), QStringLiteral("-W"), seconds, dotted(address)});
-    return ping.waitForFinished(int((timeout + slack).count())) && ping.exitStatus() == QProcess::NormalExit &&
-           ping.exitCode() == 0;
+    const bool ended = ping.waitForFinished(int((timeout + slack).count()));
+    return ended && ping.exitStatus() == QProcess::NormalExit ? ping.exitCode() : notSent;
+}
+
+} // namespace
+
+// Fixed places: a search path is the caller's to set.
+QString installedPing() {
+    for (const QString& path : {QStringLiteral("/usr/bin/ping"), QStringLiteral("/bin/ping")})
+        if (QFileInfo(path).isFile() && QFileInfo(path).isExecutable())
+            return path;
+    return {};
+}
+
+bool mayPing(const QString& program) {
+    return exitCode(program, {.s_addr = htonl(INADDR_LOOPBACK)}, std::chrono::milliseconds(1000)) != notSent;
+}
+
+bool pingByProgram(const QString& program, in_addr address, std::chrono::milliseconds timeout) {
+    return exitCode(program, address, timeout) == answered;
 }
 
 } // namespace platform

@@ -140,7 +140,7 @@ void PingSocket::takeProgram(const char* failure) {
     // Out of sockets, or without ICMP, the program would get no further.
     if (failure == std::string_view(refusedText))
         m_program = installedPing();
-    if (m_program.isEmpty())
+    if (m_program.isEmpty() || !mayPing(m_program))
         throw PingUnavailable(failure);
     qCInfo(platformLog) << "no socket for echoes; they go through" << m_program;
 }

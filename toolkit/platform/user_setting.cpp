@@ -26,6 +26,10 @@ QString contentOf(const QString& path) {
     return QString::fromUtf8(content);
 }
 
+QString withoutBlanks(QString text) {
+    return text.removeIf([](QChar c) { return c.isSpace() || c.isNull(); });
+}
+
 QStringView withoutQuotes(QStringView value) {
     for (const char16_t quote : {u'"', u'\''})
         if (value.size() >= 2 && value.front() == quote && value.back() == quote)
@@ -42,11 +46,21 @@ QString userSettingFolder() {
 QString ReadUserSetting(const QString& name, const QString& folder) {
     const QString path = folder + QStringLiteral("/user.conf");
     const QString text = contentOf(path);
+    bool isThere = false;
     for (const QStringView line : QStringView(text).split(u'\n')) {
         const qsizetype equals = line.indexOf(u'=');
-        if (equals >= 0 && line.first(equals).trimmed().compare(name, Qt::CaseInsensitive) == 0)
-            return withoutQuotes(line.sliced(equals + 1).trimmed()).toString();
+        if (equals < 0)
+            continue;
+        const QString found = withoutQuotes(line.first(equals).trimmed()).toString().simplified();
+        if (found.compare(name, Qt::CaseInsensitive) != 0)
+            continue;
+        isThere = true;
+        if (const QStringView value = withoutQuotes(line.sliced(equals + 1).trimmed()); !value.isEmpty())
+            return value.toString();
     }
+    // Whoever wrote the name meant something by it; to pass over it would lift a limit.
+    if (!isThere && withoutBlanks(text).contains(withoutBlanks(name), Qt::CaseInsensitive))
+        throw std::runtime_error(QStringLiteral("%1: no value for '%2' can be read").arg(path, name).toStdString());
     qCWarning(platformLog) << "user setting" << name << "not in" << path;
     return {};
 }

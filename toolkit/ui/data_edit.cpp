@@ -32,7 +32,7 @@ void DataEdit::bind(data::DataSet& set, const QString& field) {
 }
 
 void DataEdit::acceptDigitsOnly() {
-    setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]*")), this));
+    setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,9}")), this));
 }
 
 void DataEdit::showValue() {

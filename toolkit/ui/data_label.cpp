@@ -10,9 +10,15 @@ DataLabel::DataLabel(QWidget* parent) : QLabel(parent) {
     setTextFormat(Qt::PlainText);
 }
 
+QSize DataLabel::sizeHint() const {
+    const QMargins around = contentsMargins();
+    const QSize line(fontMetrics().horizontalAdvance(singleLine(text())), fontMetrics().height());
+    return line + QSize(around.left() + around.right() + 2 * margin(), around.top() + around.bottom() + 2 * margin());
+}
+
 QSize DataLabel::minimumSizeHint() const {
     constexpr int fewCharacters = 4;
-    const QSize whole = QLabel::minimumSizeHint();
+    const QSize whole = sizeHint();
     return {std::min(whole.width(), fontMetrics().averageCharWidth() * fewCharacters), whole.height()};
 }
 

@@ -10,6 +10,8 @@ class DataLabel final : public QLabel {
 public:
     explicit DataLabel(QWidget* parent = nullptr);
 
+    /// One line, whatever the text holds.
+    [[nodiscard]] QSize sizeHint() const override;
     [[nodiscard]] QSize minimumSizeHint() const override;
 
 protected:

@@ -4,6 +4,7 @@
 #include "toolkit/ui/message_dialog.h"
 
 void showFault(QWidget* screen, const std::exception& fault) {
+    ActionRefusal::note();
     // A statement that somebody has stopped is nothing to be alarmed at.
     const auto* refused = dynamic_cast<const db::Fault*>(&fault);
     const bool isStopped = refused && refused->isInterrupted();

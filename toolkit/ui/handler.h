@@ -42,6 +42,23 @@ private:
     static inline int s_count = 0;
 };
 
+/// Whether the action under way was refused, as its own check or message tells. Actions inside it, on a screen that it
+/// opened, count for themselves.
+class ActionRefusal final {
+public:
+    ActionRefusal() : m_around(s_refused) { s_refused = false; }
+    ~ActionRefusal() { s_refused = m_around; }
+    ActionRefusal(const ActionRefusal&) = delete;
+    ActionRefusal& operator=(const ActionRefusal&) = delete;
+
+    static void note() { s_refused = true; }
+    [[nodiscard]] static bool isNoted() { return s_refused; }
+
+private:
+    static inline bool s_refused = false;
+    const bool m_around;
+};
+
 /// The same for an action of the person at the screen, at once or when handlers no longer wait, unless the screen is
 /// gone by then; the action keeps its own copy of all that it uses. One that succeeds takes away what the screen's
 /// notice bar told before it.
@@ -52,8 +69,9 @@ bool runHandler(QWidget* screen, Action action) {
         return true;
     }
     const QPointer<NoticeBar> told = NoticeBar::atActionOf(*screen);
+    const ActionRefusal refusal;
     const bool succeeded = showingFaults(screen, action);
-    if (succeeded && told)
+    if (succeeded && !ActionRefusal::isNoted() && told)
         told->actionSucceeded();
     return succeeded;
 }

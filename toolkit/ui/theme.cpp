@@ -64,9 +64,10 @@ private:
         constexpr int sumPoints = 13;
         const auto is = [&widget](const char* mark) { return widget.property(mark).toBool(); };
         if (is("judul")) {
-            setColours(
-                widget,
-                {{QPalette::Window, deep}, {QPalette::WindowText, Qt::white}, {QPalette::ButtonText, Qt::white}});
+            setColours(widget, {{QPalette::Window, deep},
+                                {QPalette::WindowText, Qt::white},
+                                {QPalette::Button, deep},
+                                {QPalette::ButtonText, Qt::white}});
             widget.setAutoFillBackground(!qobject_cast<QToolButton*>(&widget));
             makeBold(widget);
             if (qobject_cast<QLabel*>(&widget))

@@ -8,6 +8,7 @@ WaitPanel::WaitPanel(const Texts& texts, QWidget* window) :
     QFrame(window), m_texts(texts), lbl_tunggu(new QLabel), btn_batal_tunggu(new QPushButton(texts.cancel)) {
     setObjectName(QStringLiteral("pnl_tunggu"));
     lbl_tunggu->setObjectName(QStringLiteral("lbl_tunggu"));
+    lbl_tunggu->setTextFormat(Qt::PlainText);
     btn_batal_tunggu->setObjectName(QStringLiteral("btn_batal_tunggu"));
     setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     setAutoFillBackground(true);
