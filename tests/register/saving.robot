@@ -129,3 +129,20 @@ tick dbg_m process_name=Bentrok
 click btn_edit
 get lbl_total
 get lbl_jumlah_benar
+close frm_isian_hitung_gaji
+echo a computation that is stopped leaves the lines as they were, and the next one works
+click btn_tambah
+set dbtp_tgl_aw 2026-10-01
+set dbtp_tgl_akh 2026-10-31
+tick dbg_grp kode_grp=STF
+click btn_select_all2
+click btn_proses
+#: main lock tables z_pay_money write
+watch
+click btn_proses
+click btn_batal_tunggu
+#: main unlock tables
+grid dbg_d
+get lbl_total
+click btn_proses
+get lbl_total

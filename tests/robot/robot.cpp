@@ -69,8 +69,9 @@ bool Robot::canStopStatement() {
 bool Robot::mustWait() const {
     if (m_dialogs.isAnswering())
         return true;
-    if (m_watching && m_running.size() <= 1 && canStopStatement())
-        return false;
+    // Whatever is in front, its input is locked as long as a statement can be stopped.
+    if (canStopStatement())
+        return m_running.size() > m_watchedDepth;
     // A command is still at work unless it has put a new window in front of the person.
     QWidget* front = frontWindow();
     return !m_running.empty() && (!front || front == m_running.back() || !front->isVisible());
@@ -124,7 +125,8 @@ void Robot::execute(const QStringList& words) {
     const std::size_t depth = m_running.size();
     carryOut(*this, words);
     settle();
-    m_watching = m_watching && (depth > 1 || words.first() == QLatin1String("watch"));
+    if (depth == m_watchedDepth && words.first() != QLatin1String("watch"))
+        m_watchedDepth = 0;
     // Commands that ran inside this one have their own time; the outer one ended when its screen appeared.
     if (measured && m_running.size() == depth)
         m_lastTook = m_clock.elapsed();

@@ -32,7 +32,7 @@ public:
     [[nodiscard]] qint64 lastTook() const { return m_lastTook; }
     void startProgram();
     /// The next command may be spoken to as soon as it shows that a statement of its takes long.
-    void watchNext() { m_watching = true; }
+    void watchNext() { m_watchedDepth = m_running.size(); }
 
     static void print(const QString& fact);
     /// Handles what stands in the queues, as happens between two actions of a person.
@@ -60,7 +60,7 @@ private:
     std::vector<QWidget*> m_running; // the front window that each command on the stack began under
     QElapsedTimer m_clock;
     qint64 m_lastTook = 0;
-    bool m_watching = false;
+    std::size_t m_watchedDepth = 0; ///< of the command that is not waited for; 0 for none
     bool m_finished = false;
     std::unique_ptr<window::Program> m_program; // goes first: what follows events is still there then
 };
