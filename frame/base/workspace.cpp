@@ -63,7 +63,6 @@ WorkspaceTitle::WorkspaceTitle(QWidget* parent) : QWidget(parent), m_caption(new
     setProperty("judul", true);
     m_caption->setProperty("judul", true);
     close->setProperty("judul", true);
-    setAttribute(Qt::WA_StyledBackground);
 }
 
 Workspace* WorkspaceTitle::workspace() const {

@@ -2,7 +2,7 @@
 #: options --user "<b>hrd</b> &x" --now "2026-11-05 08:15"
 #: app-file app.sql
 #: main-file company.sql
-#: main update emp set first_name='<img src=/etc/hostname>&Cari', last_name=repeat('W', 200) where emp_id_auto=1;
+#: main update emp set first_name='<img src=/etc/hostname>&Cari\nDua\nTiga', last_name=repeat('W', 200) where emp_id_auto=1;
 #:+ update emp set first_name='<b>x</b> 🙂𐐀', last_name='محمد' where emp_id_auto=2;
 #:+ update z_pay_com set com_name='<font color=red>&Gaji</font>' where com_id=10;
 #:+ insert into z_pay_process_m (process_id, process_name, date1, date2, round_value) values

@@ -76,6 +76,7 @@ int main(int argc, char** argv) {
     QTemporaryFile screen;
     prepareScreen(screen, options.value(u"size"_qs));
     QApplication application(argc, argv);
+    screen.remove(); // now: a script that fails ends the program without going back through here
     applyTheme(application);
     QApplication::setQuitOnLastWindowClosed(false);
     options.process(application);

@@ -21,6 +21,7 @@ Connection::~Connection() = default;
 void Connection::configure(ConnectionSettings settings, Waits waits) {
     m_settings = std::move(settings);
     m_waits = waits;
+    m_silence.reset();
 }
 
 void Connection::open() {
@@ -76,9 +77,19 @@ void Connection::openAsNeeded(const QString& sql) {
         close();
     if (m_session)
         return;
+    // Several statements in a row, each of which its caller can do without, are to cost one wait.
+    const auto start = std::chrono::steady_clock::now();
+    if (m_silence && start < m_silentUntil)
+        throw Fault(*m_silence);
+    m_silence.reset();
     try {
         open();
     } catch (const Fault& fault) {
+        const auto end = std::chrono::steady_clock::now();
+        if (end - start >= m_waits.connect) {
+            m_silence = fault.whileOpening();
+            m_silentUntil = end + m_waits.connect;
+        }
         throw fault.whileOpening();
     }
 }

@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 
 struct st_mysql;
 
@@ -94,6 +95,8 @@ private:
     Waits m_waits;
     std::unique_ptr<st_mysql, Close> m_session;
     SessionIdentity m_identity;
+    std::optional<Fault> m_silence; ///< of the last open, where it took the whole wait
+    std::chrono::steady_clock::time_point m_silentUntil;
     StatementWatch* m_watch = nullptr;
     Wait* m_wait = nullptr;  ///< of the statement that is under way
     bool m_isSecond = false; ///< opened beside a session that waits

@@ -2,6 +2,7 @@
 
 #include "toolkit/data/value.h"
 #include "toolkit/text/number_text.h"
+#include "toolkit/ui/plain_text.h"
 
 namespace {
 
@@ -33,8 +34,9 @@ void GridColumn::setCaption(const QString& caption) {
 }
 
 QString GridColumn::editText(const QVariant& value) const {
-    const bool isGrouped = m_plan.show == Show::Money || m_plan.show == Show::Factor;
-    return isGrouped ? plainText(value) : displayText(value);
+    // As it is stored: a line break must not become a blank because its cell was entered.
+    const bool isPlain = m_plan.show == Show::Money || m_plan.show == Show::Factor || m_plan.show == Show::Plain;
+    return isPlain ? plainText(value) : displayText(value);
 }
 
 QString GridColumn::linedUp(const QString& text) const {
@@ -64,5 +66,5 @@ QString GridColumn::displayText(const QVariant& value) const {
     case Show::Plain:
         break;
     }
-    return plainText(value);
+    return singleLine(plainText(value));
 }

@@ -19,7 +19,9 @@ QString singleLine(const QString& text) {
 }
 
 QString readable(const QString& text) {
-    const QString start = text.size() > mostCharacters ? text.left(mostCharacters) + QChar(0x2026) : text;
+    const qsizetype end =
+        mostCharacters - (text.size() > mostCharacters && text[mostCharacters - 1].isHighSurrogate() ? 1 : 0);
+    const QString start = text.size() > mostCharacters ? text.left(end) + QChar(0x2026) : text;
     QString broken;
     int inARow = 0;
     // By what is seen as one character: nothing may come between the parts of one.
