@@ -9,6 +9,7 @@
 #include <QTreeWidget>
 
 #include <map>
+#include <utility>
 #include <vector>
 
 namespace frame {
@@ -58,7 +59,7 @@ std::vector<Department> readDepartments(Session& session) {
 /// Puts departments below one another by their stored paths.
 class Placer final {
 public:
-    explicit Placer(QTreeWidgetItem* top) : m_top(top) {}
+    Placer(QTreeWidgetItem* top, QStringList known) : m_top(top), m_known(std::move(known)) {}
 
     /// To be called level by level.
     void place(const Department& department) {
@@ -76,24 +77,36 @@ private:
         return new QTreeWidgetItem(parent, {text});
     }
 
-    /// Under the root with its whole path, where it can be seen and chosen.
+    /// Under the root with its whole path, where it can be seen and chosen. It is told once for a tree.
     QTreeWidgetItem* addOrphan(const QString& path) {
-        fault::dropFault("tempat sebuah departemen dalam susunannya", [&] { throw data::Fault(path); });
+        if (!m_known.contains(path))
+            fault::dropFault("tempat sebuah departemen dalam susunannya", [&] { throw data::Fault(path); });
         return add(m_top->childCount() > 0 ? m_top->child(0) : m_top, path);
     }
 
     QTreeWidgetItem* m_top;
+    const QStringList m_known;
     const QIcon m_empty = iconFor(Staff::None);
     const QIcon m_staffed = iconFor(Staff::Some);
     QHash<QString, QTreeWidgetItem*> m_entries; ///< by stored path
 };
 
+/// The orphans that a tree shows: no other entry has more than one step of its path as its text.
+QStringList orphansIn(const QTreeWidgetItem* top) {
+    QStringList paths;
+    const QTreeWidgetItem* root = top->child(0);
+    for (int i = 0; root && i < root->childCount(); ++i)
+        if (root->child(i)->text(0).contains(u'\\'))
+            paths << root->child(i)->text(0);
+    return paths;
+}
+
 /// Level by level, so that rows may come in any order.
-void placeAll(QTreeWidgetItem* top, const std::vector<Department>& departments) {
+void placeAll(QTreeWidgetItem* top, const std::vector<Department>& departments, const QStringList& known) {
     std::map<qsizetype, std::vector<const Department*>> levels;
     for (const Department& department : departments)
         levels[department.path.count(u'\\')].push_back(&department);
-    Placer placer(top);
+    Placer placer(top, known);
     for (const auto& [level, members] : levels)
         for (const Department* department : members)
             placer.place(*department);
@@ -111,12 +124,13 @@ void insertRoot(Session& session, QTreeWidgetItem* top) {
 
 void FillDeptTree(TreeBox& box, Session& session) {
     const std::vector<Department> departments = readDepartments(session);
-    box.clearTree();
     QTreeWidgetItem* top = box.tree().invisibleRootItem();
+    const QStringList known = orphansIn(top);
+    box.clearTree();
     if (departments.empty())
         insertRoot(session, top);
     else
-        placeAll(top, departments);
+        placeAll(top, departments, known);
     QTreeWidgetItem* first = box.tree().topLevelItem(0);
     box.tree().expandRecursively(box.tree().indexFromItem(first));
     box.choose(first);

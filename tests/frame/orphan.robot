@@ -13,3 +13,4 @@ click btn_cari
 grid dbg_rekap
 click Image2
 forms
+get frm_menu.btn_pemberitahuan
