@@ -76,7 +76,9 @@ int main(int argc, char** argv) {
     QTemporaryFile screen;
     prepareScreen(screen, options.value(u"size"_qs));
     QApplication application(argc, argv);
-    screen.remove(); // now: a script that fails ends the program without going back through here
+    // Now: a script that fails ends the program without going back through here. A real display needs no such file.
+    if (!screen.fileName().isEmpty())
+        screen.remove();
     applyTheme(application);
     QApplication::setQuitOnLastWindowClosed(false);
     options.process(application);
