@@ -12,7 +12,9 @@ DataLabel::DataLabel(QWidget* parent) : QLabel(parent) {
 
 QSize DataLabel::sizeHint() const {
     const QMargins around = contentsMargins();
-    const QSize line(fontMetrics().horizontalAdvance(singleLine(text())), fontMetrics().height());
+    // Rounded down, the width of a whole text would be one in which it is cut.
+    const int width = fontMetrics().horizontalAdvance(singleLine(text())) + 1;
+    const QSize line(width, fontMetrics().height());
     return line + QSize(around.left() + around.right() + 2 * margin(), around.top() + around.bottom() + 2 * margin());
 }
 
