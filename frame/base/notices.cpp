@@ -4,6 +4,7 @@
 #include "toolkit/ui/handler.h"
 
 #include <QApplication>
+#include <QWindow>
 
 using namespace Qt::StringLiterals;
 
@@ -12,11 +13,20 @@ namespace frame {
 namespace {
 
 constexpr std::size_t keptNotices = 1000;
+constexpr char wasInFront[] = "wasInFront";
 const QString formName = u"frm_pemberitahuan"_s;
 
 /// Message dialogs, menus and the guide are no screens: what they show goes with them.
 bool isScreen(const QWidget& window) {
     return window.objectName().startsWith("frm_"_L1) && !window.testAttribute(Qt::WA_ShowWithoutActivating);
+}
+
+/// The window that an action has opened and the window system has not brought to the front yet.
+QWidget* openedJustNow() {
+    for (QWidget* widget : QApplication::topLevelWidgets())
+        if (widget->isVisible() && isScreen(*widget) && !widget->windowHandle()->property(wasInFront).toBool())
+            return widget;
+    return nullptr;
 }
 
 } // namespace
@@ -41,6 +51,10 @@ Notices::Notices(Services& services, QWidget& mainWindow, QToolButton& button) :
     connect(&m_soon, &QTimer::timeout, this, &Notices::tell);
     connect(&button, &QToolButton::clicked, this, [this] { showingFaults(&m_mainWindow, [this] { showList(); }); });
     button.hide();
+    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [](QWindow* window) {
+        if (window)
+            window->setProperty(wasInFront, true);
+    });
 }
 
 void Notices::readTexts() {
@@ -114,6 +128,8 @@ void Notices::showList() {
 
 QWidget& Notices::screenInFront() const {
     QWidget* front = QApplication::activeModalWidget();
+    if (!front)
+        front = openedJustNow();
     if (!front)
         front = QApplication::activeWindow();
     while (front && !isScreen(*front))

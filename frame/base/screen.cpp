@@ -33,8 +33,9 @@ void Screen::showEvent(QShowEvent* event) {
             this,
             [this] {
                 // One that could not be opened is of no use to anybody.
-                if (isVisible() && !runHandler(this, [this] { FormActivate(); }))
-                    done(Rejected);
+                if (isVisible())
+                    runHandler(
+                        this, [this] { FormActivate(); }, [this] { done(Rejected); });
             },
             Qt::QueuedConnection);
 }

@@ -25,8 +25,9 @@ void Workspace::showEvent(QShowEvent* event) {
     QMetaObject::invokeMethod(
         this,
         [this] {
-            if (isVisible() && !runHandler(this, [this] { FormActivate(); }))
-                close();
+            if (isVisible())
+                runHandler(
+                    this, [this] { FormActivate(); }, [this] { close(); });
         },
         Qt::QueuedConnection);
 }

@@ -240,7 +240,7 @@ void Tfrm_menu::Timer1Timer() {
     }
     if (!m_frm_warning)
         m_frm_warning = std::make_unique<Tfrm_warning>(m_services.language);
-    m_frm_warning->show();
+    m_frm_warning->appearBeside(*this);
 }
 
 void Tfrm_menu::setWorkspace(Icon icon, WorkspaceFactory factory) {

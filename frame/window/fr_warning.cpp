@@ -65,11 +65,17 @@ void Tfrm_warning::moveToCorner(const QScreen& screen) {
     move(corner.topLeft());
 }
 
+void Tfrm_warning::appearBeside(QWidget& frame) {
+    // A list that has just closed may still be the active window.
+    QWidget* active = QApplication::activeWindow();
+    m_active = active && active->isVisible() ? active : &frame;
+    show();
+}
+
 void Tfrm_warning::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     if (event->spontaneous())
         return;
-    m_active = QApplication::activeWindow();
     moveToCorner(m_active ? *m_active->screen() : *screen());
     m_state = State::FadingIn;
     m_opacity = 0;

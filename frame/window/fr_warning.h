@@ -25,6 +25,9 @@ public:
     explicit Tfrm_warning(frame::Language& language);
     ~Tfrm_warning() override;
 
+    /// Appears in the corner of the user's screen; the window in use stays the active one.
+    void appearBeside(QWidget& frame);
+
 protected:
     bool event(QEvent* event) override;
     void showEvent(QShowEvent* event) override;

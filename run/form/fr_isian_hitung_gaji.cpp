@@ -43,11 +43,6 @@ QString groupStatement(const frame::Branch& session_cab_id) {
 const QString componentStructure =
     QStringLiteral("select com_id, com_kode, com_name, no_urut, 0 as pilih from z_pay_com where com_id=0");
 
-/// Both are empty where the other station's program writes none.
-QString whoAndWhen(const run::StoredRun& change) {
-    return change.lastupdate_user + change.lastupdate_date.toString(QStringLiteral(" (dd/MM/yyyy HH:mm)"));
-}
-
 data::Field integerField(const QString& name) {
     return {.name = name, .type = data::FieldType::Integer};
 }
@@ -310,6 +305,12 @@ void Tfrm_isian_hitung_gaji::btn_simpanClick() {
     m_task.refresh();
 }
 
+QString Tfrm_isian_hitung_gaji::who_and_when(const run::StoredRun& change) const {
+    // The other station's program may write neither.
+    const QString who = change.lastupdate_user.isEmpty() ? txt_pemakai_lain.text() : change.lastupdate_user;
+    return who + change.lastupdate_date.toString(QStringLiteral(" (dd/MM/yyyy HH:mm)"));
+}
+
 bool Tfrm_isian_hitung_gaji::simpan() {
     for (;;) {
         switch (write_run()) {
@@ -322,7 +323,7 @@ bool Tfrm_isian_hitung_gaji::simpan() {
             m_services.messages.error(this, tidak_diketahui);
             return false;
         case run::Saved::ChangedElsewhere:
-            if (!m_services.messages.confirm(this, diubah, whoAndWhen(m_copy.foreignChange())))
+            if (!m_services.messages.confirm(this, diubah, who_and_when(m_copy.foreignChange())))
                 return false;
             m_copy.replaceForeignChange();
         }

@@ -82,6 +82,7 @@ private:
     void show_left_out(std::vector<run::LeftOut> people);
     void list_left_out(const std::vector<run::LeftOut>& people);
     [[nodiscard]] bool cek_nama_proses();
+    [[nodiscard]] QString who_and_when(const run::StoredRun& change) const;
     /// True where the run is stored; else the user was told why not.
     [[nodiscard]] bool simpan();
     [[nodiscard]] run::Saved write_run();
@@ -106,6 +107,7 @@ private:
     NamedText m_modeCaptions[3]{{this, QStringLiteral("txt_baru"), QStringLiteral("[Data Baru]")},
                                 {this, QStringLiteral("txt_ubah"), QStringLiteral("[Ubah Data]")},
                                 {this, QStringLiteral("txt_lihat"), QStringLiteral("[Lihat Data]")}};
+    NamedText txt_pemakai_lain{this, QStringLiteral("txt_pemakai_lain"), QStringLiteral("komputer lain")};
     NamedText txt_jumlah_benar{this, QStringLiteral("txt_jumlah_benar"), QStringLiteral("Jumlah semua baris: ")};
     NamedText txt_tanpa_baris{this, QStringLiteral("txt_tanpa_baris"), QStringLiteral("Karyawan tanpa baris gaji")};
     NamedText txt_siapa{this, QStringLiteral("txt_siapa"), QStringLiteral("Siapa...")};

@@ -3,8 +3,10 @@
 
 #include <QApplication>
 #include <QHeaderView>
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <gtest/gtest.h>
 
@@ -146,3 +148,27 @@ TEST(Bands, CaptionStandsOverThePartThatCanBeSeen) {
 }
 
 } // namespace
+
+TEST(GridColumn, FactorsLineUpAtTheComma) {
+    const GridColumn factor({u"f"_qs, u"f"_qs, u"F"_qs, Show::Factor}, nullptr);
+    const auto shown = [&](double value) {
+        return factor.linedUp(factor.displayText(value)).replace(QChar(0x2007), u'_').replace(QChar(0x2008), u'.');
+    };
+    const QStringList all{shown(0), shown(2.5), shown(1.25), shown(1234567), shown(5e6)};
+    EXPECT_EQ(all.join(u' ').toStdString(), "0.__ 2,5_ 1,25 1.234.567.__ 5.000.000.__");
+    EXPECT_EQ(factor.linedUp({}), QString());
+}
+
+TEST_F(Grid, ACutCellTellsItsTextAndAWholeOneNothing) {
+    const auto tip = [this](int row) {
+        const QPoint at = grid.visualRect(grid.model()->index(row, 0)).center();
+        QHelpEvent event(QEvent::ToolTip, at, grid.viewport()->mapToGlobal(at));
+        QApplication::sendEvent(grid.viewport(), &event);
+        return QToolTip::text().toStdString();
+    };
+    FitGridColumns(grid);
+    EXPECT_EQ(tip(1), "");
+    grid.setColumnWidth(0, 60);
+    EXPECT_EQ(tip(0), "");
+    EXPECT_EQ(tip(1), "<qt>sebuah teks yang panjang</qt>");
+}

@@ -5,7 +5,7 @@
 #: app insert into global_setting values ('cl_absen', 'no colour');
 #: app insert into change_lang values ('frm_pemberitahuan', 'catatan user log dari penyimpanan', -1, 'catatan log', 'the log entry');
 start
-get frm_menu.lbl_notice
+get frm_menu.lbl_notice_dropped
 get frm_menu.btn_pemberitahuan
 echo the next action that succeeds takes it away, the list keeps it
 click frm_menu.Image2
@@ -17,7 +17,7 @@ click btn_tambah
 type dbe_nama "Tanpa catatan"
 click btn_simpan
 forms
-get frm_menu.lbl_notice
+get frm_menu.lbl_notice_dropped
 click frm_menu.btn_notice_close
 state frm_menu.pnl_notice
 echo nor can the list be read after it: the form closes all the same
@@ -26,7 +26,7 @@ click btn_tambah
 type dbe_nama "Tanpa daftar"
 click btn_simpan
 forms
-get frm_menu.lbl_notice
+get frm_menu.lbl_notice_dropped
 #: rows select process_id, process_name from z_pay_process_m
 echo screens that cannot open
 #: main alter table z_pay_grp change grp_name gone varchar(100);
@@ -47,8 +47,10 @@ click btn_select_all2
 click btn_select_all
 state lbl_notice
 get lbl_notice
+get lbl_notice_dropped
 click btn_proses
 get lbl_notice
+get lbl_notice_dropped
 key Esc
 forms
 echo who got no line, and why
@@ -62,6 +64,7 @@ type dbe_nama x
 click btn_proses
 grid dbg_d
 get lbl_notice
+get lbl_notice_dropped
 state btn_notice
 click btn_notice
 grid dbg_daftar
@@ -81,3 +84,13 @@ grid dbg_daftar
 click btn_salin
 click btn_tutup
 get frm_menu.btn_pemberitahuan
+echo on the paper that the action opened
+#: main insert into z_pay_process_d (process_id, no_urut, emp_id_auto, tot_payroll) values (1, 1, 3, 40000)
+#: main insert into z_pay_process_sd (process_id, no_urut, no_urut_ref, emp_id_auto, com_id, subtot_payroll) values (1, 1, 1, 3, 10, 40000)
+#: app alter table change_lang change com_form gone varchar(100)
+tick dbg_m process_id=1
+click btn_cetak
+menu "Rekap penggajian"
+forms
+get frm_preview.lbl_notice_dropped
+state frm_menu.pnl_notice

@@ -30,7 +30,7 @@ void pressKeys(QWidget* topmost, const QString& name) {
     const QWindow* focused = QGuiApplication::focusWindow();
     if ((!focused || !focused->isVisible()) && topmost) {
         topmost->window()->activateWindow();
-        QTest::qWait(20);
+        (void)QTest::qWaitForWindowActive(topmost->window());
     }
     QWindow* window = QGuiApplication::focusWindow();
     if (keys.count() != 1 || keys[0].key() == Qt::Key_unknown || !window)

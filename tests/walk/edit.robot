@@ -12,3 +12,4 @@ click frm_isian_hitung_gaji.chb_kredit
 click frm_isian_hitung_gaji.btn_proses
 click frm_isian_hitung_gaji.btn_simpan
 forms
+get frm_menu.btn_pemberitahuan

@@ -87,6 +87,7 @@ private:
             return cut();
         case Mishap::CutAfter:
         case Mishap::Gone:
+        case Mishap::Away:
             m_cutAtAnswer = true;
             m_server.write(statement);
             return;
@@ -101,7 +102,7 @@ private:
     void fromServer() {
         m_fromServer += m_server.readAll();
         if (m_cutAtAnswer) {
-            m_plan.isGone = m_plan.mishap == Mishap::Gone;
+            m_plan.isGone = m_plan.mishap == Mishap::Gone || m_plan.mishap == Mishap::Away;
             return cut();
         }
         if (!m_isGreeted) {

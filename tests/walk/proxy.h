@@ -8,6 +8,7 @@ enum class Mishap {
     Deadlock,  ///< the server answers with error 1213
     Stall,     ///< the statement arrives late
     Gone,      ///< as CutAfter, and nobody answers at the port any more
+    Away,      ///< as Gone, until the plan says that somebody answers again
 };
 
 /// What is to go wrong, and how many statements came by since it was laid down.

@@ -2,16 +2,22 @@
 
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/ui/band_header.h"
+#include "toolkit/ui/plain_text.h"
 
+#include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QScopedValueRollback>
 #include <QSet>
 #include <QStyledItemDelegate>
+#include <QToolTip>
 
 #include <algorithm>
 
 namespace {
+
+/// What a cell takes beside its text, in pixels.
+constexpr int textRoom = 10;
 
 /// Draws a cell in its own colour on the current row, too, and numbers lined up.
 class CellDelegate final : public QStyledItemDelegate {
@@ -148,6 +154,17 @@ void DataGrid::mouseReleaseEvent(QMouseEvent* event) {
         Q_EMIT rowChangedByUser();
 }
 
+bool DataGrid::viewportEvent(QEvent* event) {
+    if (event->type() != QEvent::ToolTip)
+        return QTableView::viewportEvent(event);
+    const auto* help = static_cast<QHelpEvent*>(event);
+    const QModelIndex index = indexAt(help->pos());
+    const QString text = index.isValid() ? m_model->textAt(index.row(), index.column()) : QString();
+    const bool isCut = fontMetrics().horizontalAdvance(text) + textRoom > columnWidth(index.column());
+    QToolTip::showText(help->globalPos(), isCut ? plainToolTip(text) : QString(), this, visualRect(index));
+    return true;
+}
+
 void DataGrid::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Space && tickColumn() >= 0)
         toggle(tickColumn());
@@ -177,7 +194,6 @@ int widestText(const GridModel& rows, int column, const QFontMetrics& metrics) {
 void FitGridColumns(DataGrid& grid) {
     constexpr int leastWidth = 10;
     constexpr int captionRoom = 27;
-    constexpr int textRoom = 10;
     const QFontMetrics metrics = grid.fontMetrics();
     const GridModel& rows = grid.rows();
     for (int column = 0; column < rows.columnCount(); ++column) {

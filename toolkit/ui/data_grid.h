@@ -35,6 +35,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
+    /// A cell that is cut tells its whole text as tool tip.
+    bool viewportEvent(QEvent* event) override;
     /// An open cell puts its record into the edit state, so that posting asks for what is typed.
     bool edit(const QModelIndex& index, EditTrigger trigger, QEvent* event) override;
     void currentChanged(const QModelIndex& current, const QModelIndex& previous) override;

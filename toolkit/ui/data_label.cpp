@@ -34,9 +34,9 @@ void DataLabel::paintEvent(QPaintEvent* event) {
     QFrame::paintEvent(event);
     QPainter painter(this);
     const QRect room = contentsRect().marginsRemoved({margin(), margin(), margin(), margin()});
-    // The end stays: an amount may stand there. The direction is the screen's, so that it does stand there behind a
-    // name that runs from right to left.
-    const QString shown = fontMetrics().elidedText(singleLine(text()), Qt::ElideMiddle, room.width());
+    const QString shown = fontMetrics().elidedText(singleLine(text()), m_elideMode, room.width());
+    // The direction is the screen's, so that an amount stands at the end also behind a name that runs from right to
+    // left.
     style()->drawItemText(&painter, room, int(alignment()) | Qt::TextForceLeftToRight | Qt::TextSingleLine, palette(),
                           isEnabled(), shown, foregroundRole());
 }

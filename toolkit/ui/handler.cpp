@@ -1,6 +1,7 @@
 #include "toolkit/ui/handler.h"
 
 #include "toolkit/db/fault.h"
+#include "toolkit/ui/lookup_box.h"
 #include "toolkit/ui/message_dialog.h"
 
 void showFault(QWidget* screen, const std::exception& fault) {
@@ -14,4 +15,9 @@ void showFault(QWidget* screen, const std::exception& fault) {
     dialog.setCaption(QStringLiteral("Orvane Payroll"));
     const QString form = screen ? screen->objectName() : QString();
     dialog.execute(screen, {form, QStringLiteral("fault"), QString::fromUtf8(fault.what())});
+}
+
+void finishTyping(const QWidget& screen) {
+    if (auto* box = qobject_cast<LookupBox*>(screen.focusWidget()))
+        box->takeTyped();
 }

@@ -14,6 +14,9 @@
 /// Shows what a handler could not cope with, in the words of whoever raised it.
 void showFault(QWidget* screen, const std::exception& fault);
 
+/// A shortcut presses its button without taking the focus from where somebody has just typed: what stands there counts.
+void finishTyping(const QWidget& screen);
+
 /// Runs what an event asks for. A fault ends here with a message: no exception may reach the event loop. True where it
 /// ended without one.
 template <typename Action>
@@ -61,19 +64,22 @@ private:
 
 /// The same for an action of the person at the screen, at once or when handlers no longer wait, unless the screen is
 /// gone by then; the action keeps its own copy of all that it uses. One that succeeds takes away what the screen's
-/// notice bar told before it.
-template <typename Action>
-bool runHandler(QWidget* screen, Action action) {
+/// notice bar told before it; behind the message of one that fails comes `afterFault`.
+template <typename Action, typename AfterFault = void (*)()>
+void runHandler(
+    QWidget* screen, Action action, AfterFault afterFault = [] {}) {
     if (HandlersWait::isOn()) {
-        QTimer::singleShot(std::chrono::milliseconds(20), screen, [screen, action] { runHandler(screen, action); });
-        return true;
+        QTimer::singleShot(std::chrono::milliseconds(20), screen,
+                           [screen, action, afterFault] { runHandler(screen, action, afterFault); });
+        return;
     }
+    finishTyping(*screen);
     const QPointer<NoticeBar> told = NoticeBar::atActionOf(*screen);
     const ActionRefusal refusal;
-    const bool succeeded = showingFaults(screen, action);
-    if (succeeded && !ActionRefusal::isNoted() && told)
+    if (!showingFaults(screen, action))
+        afterFault();
+    else if (!ActionRefusal::isNoted() && told)
         told->actionSucceeded();
-    return succeeded;
 }
 
 /// Connects a signal with a screen's handler, guarded by runHandler.

@@ -1,6 +1,5 @@
 #include "toolkit/ui/lookup_box.h"
 
-#include <QApplication>
 #include <QCompleter>
 #include <QLineEdit>
 
@@ -12,7 +11,6 @@ LookupBox::LookupBox(QWidget* parent) : QComboBox(parent) {
     completer()->setCompletionMode(QCompleter::PopupCompletion);
     connect(this, &QComboBox::activated, this, &LookupBox::chosen);
     connect(lineEdit(), &QLineEdit::editingFinished, this, &LookupBox::takeTyped);
-    qApp->installEventFilter(this);
 }
 
 void LookupBox::setSource(data::DataSet* set, const QString& keyField, const QString& showField) {
@@ -47,13 +45,6 @@ void LookupBox::chosen() {
     if (currentIndex() >= 0)
         m_set->goToRow(currentIndex());
     Q_EMIT closedUp();
-}
-
-bool LookupBox::eventFilter(QObject* watched, QEvent* event) {
-    // A shortcut presses its button without taking the focus from here.
-    if (event->type() == QEvent::Shortcut && hasFocus())
-        takeTyped();
-    return QComboBox::eventFilter(watched, event);
 }
 
 void LookupBox::takeTyped() {

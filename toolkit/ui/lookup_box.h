@@ -20,18 +20,15 @@ public:
     void clearChoice() { setCurrentIndex(-1); }
     /// What the chosen entry reads; half-typed text does not count.
     [[nodiscard]] QString text() const { return itemText(currentIndex()); }
+    /// Chooses the entry that reads as what was typed; none where no entry does.
+    void takeTyped();
 
 Q_SIGNALS:
     /// The user has chosen an entry or emptied the box.
     void closedUp();
 
-protected:
-    /// Watches the whole program for shortcuts.
-    bool eventFilter(QObject* watched, QEvent* event) override;
-
 private:
     void fill();
-    void takeTyped();
     void chosen();
 
     data::DataSet* m_set = nullptr;

@@ -2,9 +2,12 @@
 
 #include "toolkit/ui/plain_text.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QShortcut>
 #include <QStyle>
 #include <QVBoxLayout>
 
@@ -85,7 +88,9 @@ MessageWindow::MessageWindow(MessageKind kind, const Message& message, QWidget* 
     text->setObjectName(QStringLiteral("lbl_pesan"));
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
-    text->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    // The shown text has places to break in it that nobody wants to copy.
+    connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this,
+            [this] { QGuiApplication::clipboard()->setText(m_message.text); });
     text->setMinimumWidth(fontMetrics().averageCharWidth() * 48);
 
     auto* body = new QHBoxLayout;

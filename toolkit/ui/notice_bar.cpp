@@ -49,10 +49,13 @@ NoticeBar* NoticeBar::atActionOf(const QWidget& screen) {
 }
 
 NoticeBar::NoticeBar(QWidget& host) :
-    QFrame(&host), m_label(new DataLabel), m_button(newButton(QStringLiteral("btn_notice"), {})) {
+    QFrame(&host), m_label(new DataLabel), m_droppedLabel(new DataLabel),
+    m_button(newButton(QStringLiteral("btn_notice"), {})) {
     setObjectName(QStringLiteral("pnl_notice"));
     m_label->setObjectName(QStringLiteral("lbl_notice"));
-    m_label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+    m_droppedLabel->setObjectName(QStringLiteral("lbl_notice_dropped"));
+    for (DataLabel* label : {m_label, m_droppedLabel})
+        label->setElideMode(Qt::ElideRight);
     QToolButton* close = newButton(QStringLiteral("btn_notice_close"), QStringLiteral("✕"));
     connect(m_button, &QToolButton::clicked, this, [this] { showingFaults(window(), m_notice.more); });
     connect(close, &QToolButton::clicked, this, [this] {
@@ -61,8 +64,10 @@ NoticeBar::NoticeBar(QWidget& host) :
     });
     auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(8, 1, 2, 1);
-    layout->addWidget(m_label, 1);
+    layout->addWidget(m_label);
     layout->addWidget(m_button);
+    layout->addWidget(m_droppedLabel);
+    layout->addStretch(1);
     layout->addWidget(close);
     QPalette colours = palette();
     colours.setColor(QPalette::Window, QColor(0xff, 0xf4, 0xd6));
@@ -100,12 +105,12 @@ void NoticeBar::tellDropped(const QString& text, int times) {
 }
 
 void NoticeBar::display() {
-    QStringList parts;
-    if (!m_notice.text.isEmpty())
-        parts << m_notice.text;
-    if (!m_dropped.isEmpty())
-        parts << m_dropped + (m_furtherDropped > 0 ? QStringLiteral(" (+%1)").arg(m_furtherDropped) : QString());
-    m_label->setText(parts.join(QStringLiteral(" | ")));
+    m_label->setText(m_notice.text);
+    m_label->setHidden(m_notice.text.isEmpty());
+    // The number stands in front: the end of the words may not fit.
+    const QString further = m_furtherDropped > 0 ? QStringLiteral("(+%1) ").arg(m_furtherDropped) : QString();
+    m_droppedLabel->setText(further + m_dropped);
+    m_droppedLabel->setHidden(m_dropped.isEmpty());
     m_button->setText(m_notice.moreCaption);
     m_button->setVisible(bool(m_notice.more));
     show();

@@ -45,7 +45,8 @@ private:
     void display();
     void place();
 
-    DataLabel* m_label;
+    DataLabel* m_label;        ///< what the screen tells
+    DataLabel* m_droppedLabel; ///< what was given up
     QToolButton* m_button;
     Notice m_notice;
     QString m_dropped;
