@@ -2,7 +2,8 @@
 
 #include "register/fr_hitung_gaji.h"
 
-#include "frame/base/tick_list.h"
+#include "base/paper/captions.h"
+#include "base/tick_list.h"
 #include "register/reports/captions.h"
 #include "register/reports/statements.h"
 #include "toolkit/fault/drop_fault.h"
@@ -15,17 +16,19 @@
 
 #include <QMenu>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const frame::MessageText pilih_data{u"frm_hitung_gaji"_qs, 3, u"Pilih data yang akan dicetak."_qs};
-const frame::MessageText tidak_muat{u"frm_hitung_gaji"_qs, 5,
-                                    u"Judul dan kaki halaman terlalu tinggi, tidak ada tempat untuk isi laporan."_qs};
+const base::MessageText pilih_data{u"frm_hitung_gaji"_s, 3, u"Pilih data yang akan dicetak."_s};
+const base::MessageText tidak_muat{u"frm_hitung_gaji"_s, 5,
+                                   u"Judul dan kaki halaman terlalu tinggi, tidak ada tempat untuk isi laporan."_s};
 
 } // namespace
 
 void Tfrm_hitung_gaji::add_print_menu() {
     using Self = Tfrm_hitung_gaji;
-    pmn_cetak->setObjectName(QStringLiteral("pmn_cetak"));
+    pmn_cetak->setObjectName(u"pmn_cetak"_s);
     const auto add = [this](const QString& name, const QString& text, void (Self::*handler)()) {
         QAction* entry = pmn_cetak->addAction(text);
         entry->setObjectName(name);
@@ -33,12 +36,12 @@ void Tfrm_hitung_gaji::add_print_menu() {
         if (handler)
             onEvent(entry, &QAction::triggered, this, handler);
     };
-    add(u"RekapPenggajian1"_qs, u"Rekap penggajian"_qs, &Self::RekapPenggajian1Click);
-    add(u"Rinciangaji1"_qs, u"Rincian penggajian"_qs, &Self::Rinciangaji1Click);
-    add(u"SlipGaji1"_qs, u"Slip penggajian"_qs, &Self::SlipGaji1Click);
-    add(u"ExporttoExcel1"_qs, u"Export to Excel (Rincian)"_qs, nullptr);
+    add(u"RekapPenggajian1"_s, u"Rekap penggajian"_s, &Self::RekapPenggajian1Click);
+    add(u"Rinciangaji1"_s, u"Rincian penggajian"_s, &Self::Rinciangaji1Click);
+    add(u"SlipGaji1"_s, u"Slip penggajian"_s, &Self::SlipGaji1Click);
+    add(u"ExporttoExcel1"_s, u"Export to Excel (Rincian)"_s, nullptr);
     pmn_cetak->addSeparator();
-    add(u"ExporttoExcel2"_qs, u"Export to Excel (Rincian) 2"_qs, nullptr);
+    add(u"ExporttoExcel2"_s, u"Export to Excel (Rincian) 2"_s, nullptr);
 }
 
 void Tfrm_hitung_gaji::btn_cetakClick() {
@@ -48,7 +51,7 @@ void Tfrm_hitung_gaji::btn_cetakClick() {
 std::optional<payroll::Request> Tfrm_hitung_gaji::ticked_runs() {
     QList<qint64> processIds;
     fault::dropFault("daftar perhitungan yang dicentang",
-                     [&] { frame::forEachTicked(cds_m, [&] { processIds << cds_m.integer(u"process_id"); }); });
+                     [&] { base::forEachTicked(cds_m, [&] { processIds << cds_m.integer(u"process_id"); }); });
     if (!processIds.isEmpty())
         return payroll::Request{payroll::processFilter(processIds), m_ui->dtp_tgl_aw->date(),
                                 m_ui->dtp_tgl_akh->date()};
@@ -58,7 +61,8 @@ std::optional<payroll::Request> Tfrm_hitung_gaji::ticked_runs() {
 
 std::optional<report::Document> Tfrm_hitung_gaji::compose(const payroll::Request& request, const MakeReport& make) {
     const WaitCursor wait;
-    const report::Captions captions = payroll::captionsOf(m_services.session, m_services.language.lang_column());
+    const report::Captions captions = base::paper::captionsOf(
+        m_services.session, objectName(), payroll::defaultCaptions(), m_services.language.lang_column());
     payroll::PayrollReports reports(m_services.session, captions);
     return make(reports, request);
 }
@@ -80,13 +84,13 @@ void Tfrm_hitung_gaji::print(const QString& entry, const MakeReport& make) {
 }
 
 void Tfrm_hitung_gaji::RekapPenggajian1Click() {
-    print(u"RekapPenggajian1"_qs, [](auto& reports, const auto& request) { return reports.RekapPenggajian(request); });
+    print(u"RekapPenggajian1"_s, [](auto& reports, const auto& request) { return reports.RekapPenggajian(request); });
 }
 
 void Tfrm_hitung_gaji::Rinciangaji1Click() {
-    print(u"Rinciangaji1"_qs, [](auto& reports, const auto& request) { return reports.RincianPenggajian(request); });
+    print(u"Rinciangaji1"_s, [](auto& reports, const auto& request) { return reports.RincianPenggajian(request); });
 }
 
 void Tfrm_hitung_gaji::SlipGaji1Click() {
-    print(u"SlipGaji1"_qs, [](auto& reports, const auto& request) { return reports.SlipGaji(request); });
+    print(u"SlipGaji1"_s, [](auto& reports, const auto& request) { return reports.SlipGaji(request); });
 }

@@ -1,6 +1,6 @@
 #include "register/fr_hitung_gaji.h"
 
-#include "frame/base/tick_list.h"
+#include "base/tick_list.h"
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/number_text.h"
 #include "toolkit/ui/caption.h"
@@ -12,21 +12,22 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int shownDays = 30;
 
-const QString formName = QStringLiteral("frm_hitung_gaji");
-const frame::MessageText lebih_dari_satu{formName, 1, u"Data yang dipilih lebih dari satu."_qs};
-const frame::MessageText yakin_hapus{formName, 2,
-                                     u"Apakah anda yakin akan menghapus proses perhitungan gaji yang dipilih?"_qs};
+const QString formName = u"frm_hitung_gaji"_s;
+const base::MessageText lebih_dari_satu{formName, 1, u"Data yang dipilih lebih dari satu."_s};
+const base::MessageText yakin_hapus{formName, 2,
+                                    u"Apakah anda yakin akan menghapus proses perhitungan gaji yang dipilih?"_s};
 
-const frame::MessageText sudah_dihapus{formName, 4, u"Perhitungan gaji yang dipilih sudah dihapus di tempat lain."_qs};
+const base::MessageText sudah_dihapus{formName, 4, u"Perhitungan gaji yang dipilih sudah dihapus di tempat lain."_s};
 
-const QString selectRuns = QStringLiteral("SELECT *   , 0 as pilih FROM z_pay_process_m");
+const QString selectRuns = u"SELECT *   , 0 as pilih FROM z_pay_process_m"_s;
 
-const QString selectEmployees = QStringLiteral(
-    R"(SELECT * FROM (select d.*, e.pin, e.nik, grp.no_rek
+const QString selectEmployees = uR"(SELECT * FROM (select d.*, e.pin, e.nik, grp.no_rek
    , concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama
    , c.cab_name, d2.dept_name, d2.level_id, f.func_name
    , SUBSTRING_INDEX(e.pin, '', 1) as col_str
@@ -36,22 +37,21 @@ const QString selectEmployees = QStringLiteral(
    left join dept as d2 on e.dept_id_auto=d2.dept_id_auto
    left join func as f on e.func_id_auto=f.func_id_auto
    left join z_pay_grp_emp as grp on d.emp_id_auto=grp.emp_id_auto
-   where d.process_id=:process_id ) as proses_d order by col_str, col_num, emp_id_auto)");
+   where d.process_id=:process_id ) as proses_d order by col_str, col_num, emp_id_auto)"_s;
 
 QString selectDetails(int type) {
-    return QStringLiteral(R"(select sd.*, c.com_kode, c.com_name, e.pin, e.nik
+    return uR"(select sd.*, c.com_kode, c.com_name, e.pin, e.nik
    , concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama
    from z_pay_process_sd as sd left join z_pay_com as c on sd.com_id=c.com_id
    left join emp as e on sd.emp_id_auto=e.emp_id_auto
-   where c.type=%1 and sd.process_id=:process_id and sd.emp_id_auto=:emp_id_auto order by c.no_urut)")
-        .arg(type);
+   where c.type=%1 and sd.process_id=:process_id and sd.emp_id_auto=:emp_id_auto order by c.no_urut)"_s.arg(type);
 }
 
 std::vector<ColumnPlan> detailColumns(const QString& grid) {
-    return {{grid + u"com_kode"_qs, u"com_kode"_qs, u"Kode"_qs},
-            {grid + u"com_name"_qs, u"com_name"_qs, u"Nama komponen"_qs},
-            {grid + u"subtot_payroll"_qs, u"subtot_payroll"_qs, u"Nilai uang"_qs, Show::Money},
-            {grid + u"jml_faktor"_qs, u"jml_faktor"_qs, u"Faktor"_qs, Show::Money}};
+    return {{grid + u"com_kode"_s, u"com_kode"_s, u"Kode"_s},
+            {grid + u"com_name"_s, u"com_name"_s, u"Nama komponen"_s},
+            {grid + u"subtot_payroll"_s, u"subtot_payroll"_s, u"Nilai uang"_s, Show::Money},
+            {grid + u"jml_faktor"_s, u"jml_faktor"_s, u"Faktor"_s, Show::Money}};
 }
 
 /// Each row rounded to whole rupiah; what cannot be read ends the sum.
@@ -71,7 +71,7 @@ QString isoDate(const QDate& date) {
 
 } // namespace
 
-Tfrm_hitung_gaji::Tfrm_hitung_gaji(frame::Services& services, QWidget* parent) :
+Tfrm_hitung_gaji::Tfrm_hitung_gaji(base::Services& services, QWidget* parent) :
     Workspace(services, parent), m_ui(std::make_unique<Ui::frm_hitung_gaji>()),
     sql_m(services.session.ADOConn, selectRuns), sql_d(services.session.ADOConn, selectEmployees),
     sql_sd(services.session.ADOConn, selectDetails(0)), sql_sd2(services.session.ADOConn, selectDetails(1)),
@@ -86,34 +86,34 @@ Tfrm_hitung_gaji::Tfrm_hitung_gaji(frame::Services& services, QWidget* parent) :
 Tfrm_hitung_gaji::~Tfrm_hitung_gaji() = default;
 
 void Tfrm_hitung_gaji::set_up() {
-    m_ui->dbg_m->setColumns({{u"dbg_mpilih"_qs, u"pilih"_qs, u"Pilih"_qs, Show::Tick},
-                             {u"dbg_mprocess_name"_qs, u"process_name"_qs, u"Nama penggajian"_qs},
-                             {u"dbg_mdate1"_qs, u"date1"_qs, u"Tgl. awal"_qs, Show::Date},
-                             {u"dbg_mdate2"_qs, u"date2"_qs, u"Tgl. akhir"_qs, Show::Date},
-                             {u"dbg_mround_value"_qs, u"round_value"_qs, u"Pecahan terkecil"_qs, Show::Money},
-                             {u"dbg_mtot_process"_qs, u"tot_process"_qs, u" Total penggajian"_qs, Show::Money},
-                             {u"dbg_mlastupdate_date"_qs, u"lastupdate_date"_qs, u"Log tanggal"_qs, Show::Moment},
-                             {u"dbg_mlastupdate_user"_qs, u"lastupdate_user"_qs, u"Log user"_qs},
-                             {u"dbg_mpayment_date"_qs, u"payment_date"_qs, u"Tgl. bayar"_qs, Show::Date, true},
-                             {u"dbg_mcreate_by"_qs, u"create_by"_qs, u"Dibuat"_qs, Show::Plain, true},
-                             {u"dbg_mcheck_by"_qs, u"check_by"_qs, u"Diperiksa"_qs, Show::Plain, true},
-                             {u"dbg_mapprove_by"_qs, u"approve_by"_qs, u"Disetujui"_qs, Show::Plain, true},
-                             {u"dbg_mprocess_id"_qs, u"process_id"_qs, u"process_id"_qs, Show::Plain, true}});
-    m_ui->dbg_d->setColumns({{u"dbg_dpin"_qs, u"pin"_qs, u"PIN"_qs},
-                             {u"dbg_dnik"_qs, u"nik"_qs, u"NIK"_qs},
-                             {u"dbg_dnama"_qs, u"nama"_qs, u"Nama karyawan"_qs},
-                             {u"dbg_dtot_payroll"_qs, u"tot_payroll"_qs, u"Jumlah gaji"_qs, Show::Money}});
-    m_ui->dbg_sd->setColumns(detailColumns(u"dbg_sd"_qs));
-    m_ui->dbg_sd2->setColumns(detailColumns(u"dbg_sd2"_qs));
+    m_ui->dbg_m->setColumns({{u"dbg_mpilih"_s, u"pilih"_s, u"Pilih"_s, Show::Tick},
+                             {u"dbg_mprocess_name"_s, u"process_name"_s, u"Nama penggajian"_s},
+                             {u"dbg_mdate1"_s, u"date1"_s, u"Tgl. awal"_s, Show::Date},
+                             {u"dbg_mdate2"_s, u"date2"_s, u"Tgl. akhir"_s, Show::Date},
+                             {u"dbg_mround_value"_s, u"round_value"_s, u"Pecahan terkecil"_s, Show::Money},
+                             {u"dbg_mtot_process"_s, u"tot_process"_s, u" Total penggajian"_s, Show::Money},
+                             {u"dbg_mlastupdate_date"_s, u"lastupdate_date"_s, u"Log tanggal"_s, Show::Moment},
+                             {u"dbg_mlastupdate_user"_s, u"lastupdate_user"_s, u"Log user"_s},
+                             {u"dbg_mpayment_date"_s, u"payment_date"_s, u"Tgl. bayar"_s, Show::Date, true},
+                             {u"dbg_mcreate_by"_s, u"create_by"_s, u"Dibuat"_s, Show::Plain, true},
+                             {u"dbg_mcheck_by"_s, u"check_by"_s, u"Diperiksa"_s, Show::Plain, true},
+                             {u"dbg_mapprove_by"_s, u"approve_by"_s, u"Disetujui"_s, Show::Plain, true},
+                             {u"dbg_mprocess_id"_s, u"process_id"_s, u"process_id"_s, Show::Plain, true}});
+    m_ui->dbg_d->setColumns({{u"dbg_dpin"_s, u"pin"_s, u"PIN"_s},
+                             {u"dbg_dnik"_s, u"nik"_s, u"NIK"_s},
+                             {u"dbg_dnama"_s, u"nama"_s, u"Nama karyawan"_s},
+                             {u"dbg_dtot_payroll"_s, u"tot_payroll"_s, u"Jumlah gaji"_s, Show::Money}});
+    m_ui->dbg_sd->setColumns(detailColumns(u"dbg_sd"_s));
+    m_ui->dbg_sd2->setColumns(detailColumns(u"dbg_sd2"_s));
     m_ui->dbg_m->setDataSet(&cds_m);
     m_ui->dbg_d->setDataSet(&sql_d);
     m_ui->dbg_sd->setDataSet(&sql_sd);
     m_ui->dbg_sd2->setDataSet(&sql_sd2);
-    sql_d.follow(cds_m, {u"process_id"_qs});
+    sql_d.follow(cds_m, {u"process_id"_s});
     for (data::SqlQuery* details : {&sql_sd, &sql_sd2})
-        details->follow(sql_d, {u"process_id"_qs, u"emp_id_auto"_qs});
+        details->follow(sql_d, {u"process_id"_s, u"emp_id_auto"_s});
     for (QDateEdit* picker : {m_ui->dtp_tgl_aw, m_ui->dtp_tgl_akh})
-        picker->setDisplayFormat(QStringLiteral("dd-MM-yyyy"));
+        picker->setDisplayFormat(u"dd-MM-yyyy"_s);
 }
 
 void Tfrm_hitung_gaji::connect_handlers() {
@@ -149,12 +149,11 @@ void Tfrm_hitung_gaji::FormClose() {
 }
 
 QString Tfrm_hitung_gaji::kondisi() const {
-    QString text = QStringLiteral("\nwhere DATE(date1)>=DATE('%1') \nand DATE(date2)<DATE('%2') ")
-                       .arg(isoDate(m_ui->dtp_tgl_aw->date()), isoDate(m_ui->dtp_tgl_akh->date().addDays(1)));
-    if (const frame::Branch& branch = m_services.session.session_cab_id; branch.isLimited())
-        text += QStringLiteral("\nand process_id in (select distinct process_id from z_pay_process_d where emp_id_auto "
-                               "in (select distinct emp_id_auto from emp where %1)) ")
-                    .arg(branch.condition());
+    QString text = u"\nwhere DATE(date1)>=DATE('%1') \nand DATE(date2)<DATE('%2') "_s.arg(
+        isoDate(m_ui->dtp_tgl_aw->date()), isoDate(m_ui->dtp_tgl_akh->date().addDays(1)));
+    if (const base::Branch& branch = m_services.session.session_cab_id; branch.isLimited())
+        text += u"\nand process_id in (select distinct process_id from z_pay_process_d where emp_id_auto "
+                "in (select distinct emp_id_auto from emp where %1)) "_s.arg(branch.condition());
     return text;
 }
 
@@ -163,7 +162,7 @@ void Tfrm_hitung_gaji::btn_cariClick() {
     open_list();
     open_employees();
     open_details();
-    show_sums(QStringLiteral("] ~ "));
+    show_sums(u"] ~ "_s);
 }
 
 void Tfrm_hitung_gaji::open_list() {
@@ -185,8 +184,8 @@ void Tfrm_hitung_gaji::show_true_sum() {
     QString differing;
     fault::dropFault("jumlah baris sebuah perhitungan", [&] {
         data::SqlQuery& sql = m_services.session.sql_temp;
-        sql.openSql(QStringLiteral("select sum(tot_payroll) as jumlah from z_pay_process_d where process_id=%1")
-                        .arg(cds_m.integer(u"process_id")));
+        sql.openSql(u"select sum(tot_payroll) as jumlah from z_pay_process_d where process_id=%1"_s.arg(
+            cds_m.integer(u"process_id")));
         differing = run::differingSum(txt_jumlah_benar.text(), cds_m.real(u"tot_process"), sql.real(u"jumlah"));
     });
     m_ui->lbl_jumlah_benar->setText(differing);
@@ -209,33 +208,33 @@ void Tfrm_hitung_gaji::open_details() {
 }
 
 void Tfrm_hitung_gaji::show_sums(const QString& between) {
-    const QString name = QStringLiteral("[ ") + sql_d.text(u"nama") + between;
+    const QString name = u"[ "_s + sql_d.text(u"nama") + between;
     m_ui->lbl_tunjangan_isi->setText(name + groupedInteger(sumOf(sql_sd)));
     m_ui->lbl_potongan_isi->setText(name + groupedInteger(sumOf(sql_sd2)));
 }
 
 void Tfrm_hitung_gaji::dbg_mClick() {
     open_employees();
-    m_ui->lbl_emp_isi->setText(QStringLiteral("[ ") + cds_m.text(u"process_name") + QStringLiteral(" ]"));
+    m_ui->lbl_emp_isi->setText(u"[ "_s + cds_m.text(u"process_name") + u" ]"_s);
     open_details();
-    show_sums(QStringLiteral(" ] ~ "));
+    show_sums(u" ] ~ "_s);
 }
 
 void Tfrm_hitung_gaji::dbg_dClick() {
     open_details();
-    show_sums(QStringLiteral("] ~ "));
+    show_sums(u"] ~ "_s);
 }
 
 void Tfrm_hitung_gaji::btn_select_allClick() {
-    fault::dropFault("pencentangan semua perhitungan", [this] { frame::setTicks(cds_m, frame::TickWish::All); });
+    fault::dropFault("pencentangan semua perhitungan", [this] { base::setTicks(cds_m, base::TickWish::All); });
 }
 
 void Tfrm_hitung_gaji::btn_disselect_allClick() {
-    fault::dropFault("penghapusan semua centang", [this] { frame::setTicks(cds_m, frame::TickWish::None); });
+    fault::dropFault("penghapusan semua centang", [this] { base::setTicks(cds_m, base::TickWish::None); });
 }
 
 void Tfrm_hitung_gaji::btn_invertClick() {
-    fault::dropFault("pembalikan centang", [this] { frame::setTicks(cds_m, frame::TickWish::Invert); });
+    fault::dropFault("pembalikan centang", [this] { base::setTicks(cds_m, base::TickWish::Invert); });
 }
 
 void Tfrm_hitung_gaji::open_form(RunFormTask task) {
@@ -253,11 +252,11 @@ void Tfrm_hitung_gaji::btn_tambahClick() {
 }
 
 void Tfrm_hitung_gaji::btn_editClick() {
-    if (!frame::goToOnlyTicked(cds_m, m_services.messages, this, lebih_dari_satu))
+    if (!base::goToOnlyTicked(cds_m, m_services.messages, this, lebih_dari_satu))
         return;
     const int process_id = cds_m.integer32(u"process_id");
     data::SqlQuery& sql = m_services.session.sql_cek;
-    sql.openSql(QStringLiteral("select process_id from z_pay_process_m where process_id=%1 ").arg(process_id));
+    sql.openSql(u"select process_id from z_pay_process_m where process_id=%1 "_s.arg(process_id));
     if (!sql.isEmpty()) {
         open_form({.mode = RunFormTask::Edit, .process_id = process_id});
         return;
@@ -268,7 +267,7 @@ void Tfrm_hitung_gaji::btn_editClick() {
 
 void Tfrm_hitung_gaji::btn_hapusClick() {
     try {
-        if (frame::askForTicked(cds_m, m_services.messages, this, yakin_hapus, [this] { delete_current_run(); }))
+        if (base::askForTicked(cds_m, m_services.messages, this, yakin_hapus, [this] { delete_current_run(); }))
             show_what_is_left();
     } catch (const std::exception&) {
         fault::dropFault("penyegaran daftar perhitungan", [this] { show_what_is_left(); });
@@ -282,14 +281,14 @@ void Tfrm_hitung_gaji::show_what_is_left() {
 }
 
 void Tfrm_hitung_gaji::delete_current_run() {
-    const QString note = QStringLiteral("%1 - %2 [%3, %4 -- %5]")
-                             .arg(windowTitle(), captionText(m_ui->btn_hapus->text()), cds_m.text(u"process_name"),
-                                  isoDate(cds_m.date(u"date1")), isoDate(cds_m.date(u"date2")));
-    m_services.audit.WriteUserLog(m_services.session.login_id, note, frame::payrollModule, m_services.session.clock());
+    const QString note = u"%1 - %2 [%3, %4 -- %5]"_s.arg(windowTitle(), captionText(m_ui->btn_hapus->text()),
+                                                         cds_m.text(u"process_name"), isoDate(cds_m.date(u"date1")),
+                                                         isoDate(cds_m.date(u"date2")));
+    m_services.audit.WriteUserLog(m_services.session.login_id, note, base::payrollModule, m_services.session.clock());
     for (const char16_t* table : {u"z_pay_process_sd", u"z_pay_process_d", u"z_pay_process_m"})
         try {
-            m_services.session.ADOCom_update.execute(QStringLiteral("Delete From %1 Where process_id=%2 ")
-                                                         .arg(QString::fromUtf16(table), cds_m.text(u"process_id")));
+            m_services.session.ADOCom_update.execute(
+                u"Delete From %1 Where process_id=%2 "_s.arg(QString::fromUtf16(table), cds_m.text(u"process_id")));
         } catch (const db::Fault& refused) {
             // Whoever stops a deletion means all of it. The header goes last, so the run can still be seen.
             if (refused.isInterrupted())

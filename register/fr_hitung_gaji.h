@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/base/workspace.h"
+#include "base/workspace.h"
 #include "register/reports/payroll_reports.h"
 #include "run/form/fr_isian_hitung_gaji.h"
 #include "toolkit/data/client_data_set.h"
@@ -21,7 +21,7 @@ class Tfrm_hitung_gaji final : public Workspace {
     Q_OBJECT
 
 public:
-    Tfrm_hitung_gaji(frame::Services& services, QWidget* parent);
+    Tfrm_hitung_gaji(base::Services& services, QWidget* parent);
     ~Tfrm_hitung_gaji() override;
 
 protected:
@@ -75,5 +75,5 @@ private:
     data::ClientDataSet cds_m;
     const QString m_baseSql;
     QMenu* pmn_cetak;
-    NamedText txt_jumlah_benar{this, QStringLiteral("txt_jumlah_benar"), QStringLiteral("Jumlah semua baris: ")};
+    NamedText txt_jumlah_benar{this, u"txt_jumlah_benar", u"Jumlah semua baris: "};
 };

@@ -3,7 +3,7 @@
 #include <QLatin1String>
 
 /// Names of the settings in the table global_setting of the application database.
-namespace setting {
+namespace schema {
 
 /// The language column of change_lang and tvk_message.
 inline constexpr QLatin1String defaultLang("default_lang");
@@ -40,4 +40,4 @@ inline constexpr QLatin1String hadir100Sakit("Hadir100_sakit");
 inline constexpr QLatin1String hadir100Cuti("Hadir100_cuti");
 inline constexpr QLatin1String hadir100Libur("Hadir100_libur");
 
-} // namespace setting
+} // namespace schema

@@ -1,8 +1,8 @@
 // The recap of a large company from the search to the fitted grid, and the department tree. Prints one figure a line,
 // "name: value unit". The server comes from ORVANE_DB_*; --employees makes a smaller company.
-#include "frame/base/dept_tree.h"
-#include "frame/base/filter_block.h"
-#include "frame/window/recap.h"
+#include "base/dept_tree.h"
+#include "base/filter_block.h"
+#include "frame/recap.h"
 #include "toolkit/ui/data_grid.h"
 #include "tools/company/generate.h"
 #include "tools/company/install.h"
@@ -54,18 +54,18 @@ void measureRecap(db::Connection& connection, const QString& name, const QDate& 
     print(u"plain aggregates of the server, "_s + name, plainAggregates(connection, firstDay), u"s"_s);
     std::unique_ptr<data::SqlQuery> rows;
     const double opened = seconds([&] {
-        rows = recap::open(connection, {frame::employeesAtWork(), firstDay, lastDay});
+        rows = frame::recap::open(connection, {base::employeesAtWork(), firstDay, lastDay});
     });
     print(u"recap, statement and rows, "_s + name, opened, u"s"_s);
     const double server = seconds([&] { (void)connection.query(rows->boundSql()); });
     print(u"recap, statement alone, "_s + name, server, u"s"_s);
     print(u"recap, employees, "_s + name, rows->recordCount(), u"rows"_s);
     const double narrowed = seconds([&] {
-        (void)recap::open(connection, {frame::employeesAtWork() + u" and pin = '10' "_s, firstDay, lastDay});
+        (void)frame::recap::open(connection, {base::employeesAtWork() + u" and pin = '10' "_s, firstDay, lastDay});
     });
     print(u"recap of one employee, "_s + name, narrowed, u"s"_s);
     DataGrid grid;
-    grid.setColumns(recap::columns(), recap::bands());
+    grid.setColumns(frame::recap::columns(), frame::recap::bands());
     const double bound = seconds([&] { grid.setDataSet(rows.get()); });
     print(u"grid takes the rows, "_s + name, bound, u"s"_s);
     print(u"FitGridColumns, "_s + name, seconds([&] { FitGridColumns(grid); }), u"s"_s);
@@ -86,12 +86,12 @@ void fillDepartments(db::Connection& connection) {
 }
 
 void measureTree(const db::ConnectionSettings& settings) {
-    frame::Session session(frame::systemClock());
+    base::Session session(base::systemClock());
     session.ADOConn.configure(settings);
     fillDepartments(session.ADOConn);
     TreeBox box;
-    print(u"FillDeptTree, first time"_s, seconds([&] { frame::FillDeptTree(box, session); }), u"s"_s);
-    print(u"FillDeptTree, again"_s, seconds([&] { frame::FillDeptTree(box, session); }), u"s"_s);
+    print(u"FillDeptTree, first time"_s, seconds([&] { base::FillDeptTree(box, session); }), u"s"_s);
+    print(u"FillDeptTree, again"_s, seconds([&] { base::FillDeptTree(box, session); }), u"s"_s);
     print(u"department tree drops down"_s, seconds([&] {
               box.show();
               box.showPopup();

@@ -1,7 +1,7 @@
 // Opens and closes the register, the audit log, the run form and the preview some hundred times each and prints the
 // memory in use after each quarter, then the growth per opening over the second half, when all caches are warm: one
 // figure a line, "name: value unit". The server comes from ORVANE_DB_*.
-#include "frame/window/program.h"
+#include "frame/program.h"
 #include "register/fr_hitung_gaji.h"
 #include "tests/support/test_database.h"
 #include "toolkit/report/fr_preview.h"
@@ -108,12 +108,12 @@ void measureAll(const QCommandLineParser& options) {
     database.run(savedRun);
     const QTemporaryDir folder;
     database.writeSettingsFile(folder.path());
-    window::ProgramEnvironment environment;
+    frame::ProgramEnvironment environment;
     environment.folder = folder.path();
     environment.programPath = folder.filePath(u"bench"_s);
-    environment.arguments = {environment.programPath, window::launchToken(), u"hrd"_s};
+    environment.arguments = {environment.programPath, frame::launchToken(), u"hrd"_s};
     environment.clock = [] { return lastDay.startOfDay(); };
-    window::Program program(environment);
+    frame::Program program(environment);
     if (!program.start())
         throw std::runtime_error("the program does not start");
     settle();

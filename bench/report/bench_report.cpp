@@ -76,7 +76,7 @@ int main(int argc, char** argv) {
     const QString folder = argc > 1 ? application.arguments().at(1) : scratch.path();
     TestDatabase database;
     database.run(largeRun);
-    frame::Session session(frame::systemClock());
+    base::Session session(base::systemClock());
     session.ADOConn.configure(database.mainSettings());
     session.login_id = u"budi"_s;
     const report::Captions captions = payroll::defaultCaptions();

@@ -2,10 +2,10 @@
 // of its employees. Prints one figure a line, "name: value unit". The server comes from ORVANE_DB_*.
 #include "bench/run/month_rules.h"
 
-#include "run/bulk_reader.h"
-#include "run/figures.h"
-#include "run/reference/plain_lookups.h"
-#include "run/totals.h"
+#include "run/reading/bulk_reader.h"
+#include "run/reading/figures.h"
+#include "run/rules/totals.h"
+#include "tests/run/reference/plain_lookups.h"
 #include "tools/company/generate.h"
 
 #include <QCommandLineParser>
@@ -82,7 +82,7 @@ struct Measured {
     run::Run run;
 };
 
-Measured measureBulk(db::Connection& main, db::Connection& app, const run::Selections& selections) {
+Measured measureBulk(db::Connection& main, db::Connection& app, const run::SessionSelections& selections) {
     Measured measured;
     const qint64 before = main.statementCount() + app.statementCount();
     resetPeakMemory();
@@ -113,8 +113,9 @@ Measured measureBulk(db::Connection& main, db::Connection& app, const run::Selec
 }
 
 /// Employees spread over the whole run, each ticked with his group.
-run::Selections sliceOf(db::Connection& main, const run::Selections& selections, const run::Run& whole, int employees) {
-    run::Selections slice = selections;
+run::SessionSelections sliceOf(db::Connection& main, const run::SessionSelections& selections, const run::Run& whole,
+                               int employees) {
+    run::SessionSelections slice = selections;
     run::EmployeeChoice& choice = slice.employees.emplace();
     for (int i = 0; i < employees; ++i) {
         const int id = whole.lines[whole.lines.size() * std::size_t(i) / std::size_t(employees)].emp_id_auto;
@@ -141,7 +142,8 @@ void compare(const run::Run& plain, const run::Run& whole) {
     }
 }
 
-void measurePlain(db::Connection& main, db::Connection& app, const run::Selections& slice, const Measured& bulk) {
+void measurePlain(db::Connection& main, db::Connection& app, const run::SessionSelections& slice,
+                  const Measured& bulk) {
     TimedLookups lookups(main, app, slice);
     run::Run plain;
     const qint64 before = main.statementCount() + app.statementCount();
@@ -186,7 +188,8 @@ void bench(const Size& size, const db::ConnectionSettings& settings) {
     main.configure(settings);
     app.configure(company::applicationSettings(settings));
     installMonthRules(main);
-    const run::Selections selections = monthOf(main, {options.lastMonth, options.lastMonth.addMonths(1).addDays(-1)});
+    const run::SessionSelections selections =
+        monthOf(main, {options.lastMonth, options.lastMonth.addMonths(1).addDays(-1)});
     app.open();
     const Measured bulk = measureBulk(main, app, selections);
     measurePlain(main, app, sliceOf(main, selections, bulk.run, size.slice), bulk);

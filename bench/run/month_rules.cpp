@@ -46,9 +46,9 @@ void installMonthRules(db::Connection& main) {
                          .arg(QLatin1String(rule)));
 }
 
-run::Selections monthOf(db::Connection& main, const run::Window& month) {
-    run::Selections selections;
-    selections.session_cab_id = frame::Branch::all();
+run::SessionSelections monthOf(db::Connection& main, const run::Window& month) {
+    run::SessionSelections selections;
+    selections.session_cab_id = base::Branch::all();
     selections.period = month;
     selections.groups = numbers(main, u"select grp_id from z_pay_grp order by grp_name"_s);
     for (const int com_id : numbers(main, u"select distinct com_id from z_pay_grp_com"_s))

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "run/assembly.h"
+#include "run/reading/statements.h"
 #include "toolkit/db/connection.h"
 
 /// Replaces the company's rules by twelve components in every group: eight over the period, five of them with figures,
@@ -8,4 +8,4 @@
 void installMonthRules(db::Connection& main);
 
 /// All groups and the twelve components over the given month, with its loan payments.
-[[nodiscard]] run::Selections monthOf(db::Connection& main, const run::Window& month);
+[[nodiscard]] run::SessionSelections monthOf(db::Connection& main, const run::Window& month);

@@ -1,7 +1,5 @@
 #include "register/reports/captions.h"
 
-#include "toolkit/fault/drop_fault.h"
-
 using namespace Qt::StringLiterals;
 
 namespace payroll {
@@ -42,21 +40,6 @@ report::Captions defaultCaptions() {
         {u"ppl_tgl_cetak"_s, u"Tgl. Cetak"_s},
         {u"ppl_oleh"_s, u"Oleh"_s},
     };
-}
-
-report::Captions captionsOf(frame::Session& session, const QString& lang_column) {
-    report::Captions captions = defaultCaptions();
-    fault::dropFault("teks laporan penggajian", [&] {
-        data::SqlQuery& sql = session.sql_temp_lang;
-        sql.openSql(u"select * from change_lang where com_form='frm_hitung_gaji' "_s);
-        for (; !sql.isEof(); sql.next()) {
-            const QString text = sql.text(lang_column);
-            // Two apostrophes stand where a text was not translated.
-            if (text != u"''"_s)
-                captions.replace(sql.text(u"com_name"), text);
-        }
-    });
-    return captions;
 }
 
 } // namespace payroll

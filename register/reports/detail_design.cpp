@@ -1,4 +1,4 @@
-#include "register/reports/heading.h"
+#include "register/reports/designs.h"
 #include "register/reports/print_rules.h"
 
 using namespace Qt::StringLiterals;
@@ -11,6 +11,8 @@ using report::Rule;
 using report::sumOf;
 
 namespace payroll {
+
+using namespace base::paper;
 
 namespace {
 

@@ -1,5 +1,6 @@
 #include "register/reports/payroll_reports.h"
 
+#include "register/reports/designs.h"
 #include "register/reports/statements.h"
 #include "toolkit/fault/drop_fault.h"
 
@@ -14,12 +15,12 @@ constexpr char16_t printTime[] = u"dd/MM/yyyy HH:mm:ss";
 
 } // namespace
 
-PayrollReports::PayrollReports(frame::Session& session, const report::Captions& captions) :
+PayrollReports::PayrollReports(base::Session& session, const report::Captions& captions) :
     m_session(session), m_captions(captions), sql_detail(session.ADOConn), sql_subdetail(session.ADOConn),
     sql_subdetail2(session.ADOConn) {}
 
 // The root of the departments stands for the company.
-Heading PayrollReports::readHeading(const Request& request) {
+base::paper::Heading PayrollReports::readHeading(const Request& request) {
     data::SqlQuery& sql = m_session.sql_temp;
     sql.openSql(u"select * from dept where dept_id_auto=1 "_s);
     return {.ppl_nama_persh = sql.text(u"dept_name"),
@@ -48,19 +49,19 @@ std::optional<report::Document> PayrollReports::RekapPenggajian(const Request& r
     sql_detail.openSql(sqlDetail(request.filter));
     if (sql_detail.isEmpty())
         return std::nullopt;
-    const Heading heading = readHeading(request);
+    const base::paper::Heading heading = readHeading(request);
     return compose(recapDesign({sql_detail, sql_subdetail, sql_subdetail2}, {m_captions, heading}));
 }
 
 report::Document PayrollReports::RincianPenggajian(const Request& request) {
     openAll(request);
-    const Heading heading = readHeading(request);
+    const base::paper::Heading heading = readHeading(request);
     return compose(detailDesign({sql_detail, sql_subdetail, sql_subdetail2}, {m_captions, heading}));
 }
 
 report::Document PayrollReports::SlipGaji(const Request& request) {
     openAll(request);
-    const Heading heading = readHeading(request);
+    const base::paper::Heading heading = readHeading(request);
     return compose(slipDesign({sql_detail, sql_subdetail, sql_subdetail2}, {m_captions, heading}));
 }
 

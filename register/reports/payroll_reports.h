@@ -1,7 +1,7 @@
 #pragma once
 
-#include "frame/base/session.h"
-#include "register/reports/heading.h"
+#include "base/paper/heading.h"
+#include "base/session.h"
 
 #include <optional>
 
@@ -19,7 +19,7 @@ struct Request {
 class PayrollReports final {
 public:
     /// Both must outlive this object.
-    PayrollReports(frame::Session& session, const report::Captions& captions);
+    PayrollReports(base::Session& session, const report::Captions& captions);
 
     /// None where the runs have no employees.
     [[nodiscard]] std::optional<report::Document> RekapPenggajian(const Request& request);
@@ -27,11 +27,11 @@ public:
     [[nodiscard]] report::Document SlipGaji(const Request& request);
 
 private:
-    [[nodiscard]] Heading readHeading(const Request& request);
+    [[nodiscard]] base::paper::Heading readHeading(const Request& request);
     void allowLargeTemporaryTables();
     void openAll(const Request& request);
 
-    frame::Session& m_session;
+    base::Session& m_session;
     const report::Captions& m_captions;
     data::SqlQuery sql_detail;
     data::SqlQuery sql_subdetail;

@@ -1,4 +1,4 @@
-#include "register/reports/heading.h"
+#include "register/reports/designs.h"
 
 using namespace Qt::StringLiterals;
 using report::amount;
@@ -10,6 +10,8 @@ using report::Rule;
 using report::sumOf;
 
 namespace payroll {
+
+using namespace base::paper;
 
 namespace {
 

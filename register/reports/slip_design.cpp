@@ -1,4 +1,4 @@
-#include "register/reports/heading.h"
+#include "register/reports/designs.h"
 #include "register/reports/print_rules.h"
 
 #include <memory>
@@ -13,6 +13,8 @@ using report::Rule;
 using report::sumOf;
 
 namespace payroll {
+
+using namespace base::paper;
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "run/form/working_copy.h"
-#include "run/totals.h"
+#include "run/rules/totals.h"
 
 namespace run {
 

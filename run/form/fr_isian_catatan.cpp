@@ -9,6 +9,8 @@
 #include <array>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 void Tfrm_isian_hitung_gaji::show_total() {
     const double stored = m_copy.cds_m.real(u"tot_process");
     m_ui->lbl_total->setText(groupedInteger(stored));
@@ -30,9 +32,8 @@ void Tfrm_isian_hitung_gaji::show_left_out(std::vector<run::LeftOut> people) {
     QStringList reasons;
     for (std::size_t why = 0; why < counts.size(); ++why)
         if (counts[why] > 0)
-            reasons << m_whyLeftOut[why].text() + QStringLiteral(": %1").arg(counts[why]);
-    const QString text =
-        txt_tanpa_baris.text() + QStringLiteral(": %1 (%2)").arg(people.size()).arg(reasons.join(QStringLiteral(", ")));
+            reasons << m_whyLeftOut[why].text() + u": %1"_s.arg(counts[why]);
+    const QString text = txt_tanpa_baris.text() + u": %1 (%2)"_s.arg(people.size()).arg(reasons.join(u", "_s));
     NoticeBar::of(*this).tell({text, txt_siapa.text(), [this, people = std::move(people)] { list_left_out(people); }});
 }
 
@@ -41,7 +42,7 @@ void Tfrm_isian_hitung_gaji::list_left_out(const std::vector<run::LeftOut>& peop
     for (const run::LeftOut& person : people) {
         QString sebab = m_whyLeftOut[std::size_t(person.why)].text();
         if (!person.fault.isEmpty())
-            sebab += QStringLiteral(": ") + person.fault;
+            sebab += u": "_s + person.fault;
         rows << QStringList{person.pin, person.nik, person.nama, sebab};
     }
     Tfrm_daftar(m_services, leftOutList(std::move(rows)), this).exec();

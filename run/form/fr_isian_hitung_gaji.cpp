@@ -1,6 +1,6 @@
 #include "run/form/fr_isian_hitung_gaji.h"
 
-#include "run/compute.h"
+#include "run/reading/compute.h"
 #include "toolkit/data/clear_data_set.h"
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/number_text.h"
@@ -13,35 +13,36 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int defaultPeriodDays = 30;
 
-const QString formName = QStringLiteral("frm_isian_hitung_gaji");
-const frame::MessageText nama_kosong{formName, 1, u"Nama perhitungan gaji harus diisi."_qs};
-const frame::MessageText lebih_200{formName, 2, u"Data pilih karyawan maksimal berisi 200 karyawan."_qs};
-const frame::MessageText tidak_ada_karyawan{formName, 3, u"Tidak ada karyawan yang dipilih"_qs};
-const frame::MessageText sudah_dihapus{
-    formName, 4, u"Perhitungan gaji ini sudah dihapus di tempat lain. Tidak ada yang disimpan."_qs};
-const frame::MessageText diubah{
-    formName, 5, u"Perhitungan gaji ini sudah diubah oleh %1 sejak dibuka. Ganti perubahan itu dengan isian ini?"_qs};
-const frame::MessageText tidak_diketahui{
+const QString formName = u"frm_isian_hitung_gaji"_s;
+const base::MessageText nama_kosong{formName, 1, u"Nama perhitungan gaji harus diisi."_s};
+const base::MessageText lebih_200{formName, 2, u"Data pilih karyawan maksimal berisi 200 karyawan."_s};
+const base::MessageText tidak_ada_karyawan{formName, 3, u"Tidak ada karyawan yang dipilih"_s};
+const base::MessageText sudah_dihapus{formName, 4,
+                                      u"Perhitungan gaji ini sudah dihapus di tempat lain. Tidak ada yang disimpan."_s};
+const base::MessageText diubah{
+    formName, 5, u"Perhitungan gaji ini sudah diubah oleh %1 sejak dibuka. Ganti perubahan itu dengan isian ini?"_s};
+const base::MessageText tidak_diketahui{
     formName, 6,
     u"Hubungan dengan server terputus saat menyimpan. Belum diketahui apakah "
-    "perhitungan gaji ini tersimpan; simpan sekali lagi bila server sudah menjawab."_qs};
+    "perhitungan gaji ini tersimpan; simpan sekali lagi bila server sudah menjawab."_s};
 
 /// The groups that a session sees: all, or those with an employee of its branch.
-QString groupStatement(const frame::Branch& session_cab_id) {
+QString groupStatement(const base::Branch& session_cab_id) {
     if (!session_cab_id.isLimited())
-        return QStringLiteral("select * , 0 as pilih from z_pay_grp order by grp_name");
-    return QStringLiteral("SELECT *, 0 as pilih FROM (select * from z_pay_grp where grp_id in (select distinct grp_id "
-                          "from z_pay_grp_emp where emp_id_auto in (select distinct emp_id_auto from emp where "
-                          "%1)) ) as xxx order by grp_name ")
-        .arg(session_cab_id.condition());
+        return u"select * , 0 as pilih from z_pay_grp order by grp_name"_s;
+    return u"SELECT *, 0 as pilih FROM (select * from z_pay_grp where grp_id in (select distinct grp_id "
+           "from z_pay_grp_emp where emp_id_auto in (select distinct emp_id_auto from emp where "
+           "%1)) ) as xxx order by grp_name "_s.arg(session_cab_id.condition());
 }
 
 const QString componentStructure =
-    QStringLiteral("select com_id, com_kode, com_name, no_urut, 0 as pilih from z_pay_com where com_id=0");
+    u"select com_id, com_kode, com_name, no_urut, 0 as pilih from z_pay_com where com_id=0"_s;
 
 data::Field integerField(const QString& name) {
     return {.name = name, .type = data::FieldType::Integer};
@@ -49,17 +50,17 @@ data::Field integerField(const QString& name) {
 
 } // namespace
 
-Tfrm_isian_hitung_gaji::Tfrm_isian_hitung_gaji(frame::Services& services, RunFormTask task, QWidget* parent) :
+Tfrm_isian_hitung_gaji::Tfrm_isian_hitung_gaji(base::Services& services, RunFormTask task, QWidget* parent) :
     Screen(services, parent), m_ui(std::make_unique<Ui::frm_isian_hitung_gaji>()), m_task(std::move(task)),
     m_copy(services.session.ADOConn, {services.session.login_id, services.session.clock}),
     sql_grp(services.session.ADOConn), sql_komp(services.session.ADOConn, componentStructure), cds_grp({&sql_grp}),
-    cds_komp({&sql_komp}), vir_tb({integerField(u"grp_id"_qs)}),
-    vir_tb2({integerField(u"com_id"_qs), integerField(u"type"_qs), integerField(u"no_urut"_qs)}),
-    vir_emp({integerField(u"emp_id_auto"_qs),
-             {.name = u"pin"_qs},
-             {.name = u"nik"_qs},
-             {.name = u"nama"_qs},
-             integerField(u"grp_id"_qs)}) {
+    cds_komp({&sql_komp}), vir_tb({integerField(u"grp_id"_s)}),
+    vir_tb2({integerField(u"com_id"_s), integerField(u"type"_s), integerField(u"no_urut"_s)}),
+    vir_emp({integerField(u"emp_id_auto"_s),
+             {.name = u"pin"_s},
+             {.name = u"nik"_s},
+             {.name = u"nama"_s},
+             integerField(u"grp_id"_s)}) {
     m_ui->setupUi(this);
     set_up();
     connect_handlers();
@@ -69,33 +70,33 @@ Tfrm_isian_hitung_gaji::Tfrm_isian_hitung_gaji(frame::Services& services, RunFor
 Tfrm_isian_hitung_gaji::~Tfrm_isian_hitung_gaji() = default;
 
 void Tfrm_isian_hitung_gaji::set_up() {
-    m_ui->dbg_grp->setColumns({{u"dbg_grppilih"_qs, u"pilih"_qs, u"Pilih"_qs, Show::Tick},
-                               {u"dbg_grpkode_grp"_qs, u"kode_grp"_qs, u"Kode group"_qs},
-                               {u"dbg_grpgrp_name"_qs, u"grp_name"_qs, u"Nama group gaji"_qs}});
-    m_ui->dbg_kom->setColumns({{u"dbg_kompilih"_qs, u"pilih"_qs, u"Pilih"_qs, Show::Tick},
-                               {u"dbg_komcom_kode"_qs, u"com_kode"_qs, u"Kode"_qs},
-                               {u"dbg_komcom_name"_qs, u"com_name"_qs, u"Nama komponen"_qs},
-                               {u"dbg_komno_urut"_qs, u"no_urut"_qs, u"No urut"_qs}});
-    m_ui->dbg_d->setColumns({{u"dbg_dpin"_qs, u"pin"_qs, u"PIN"_qs},
-                             {u"dbg_dnik"_qs, u"nik"_qs, u"NIK"_qs},
-                             {u"dbg_dnama"_qs, u"nama"_qs, u"Nama"_qs},
-                             {u"dbg_dtot_payroll"_qs, u"tot_payroll"_qs, u"Jumlah gaji"_qs, Show::Money}});
-    m_ui->dbg_sd->setColumns({{u"dbg_sdcom_kode"_qs, u"com_kode"_qs, u"Kode"_qs},
-                              {u"dbg_sdcom_name"_qs, u"com_name"_qs, u"Nama komponen"_qs},
-                              {u"dbg_sdjenis"_qs, u"jenis"_qs, u"+ / -"_qs},
-                              {u"dbg_sdsubtot_payroll"_qs, u"subtot_payroll"_qs, u"Nilai uang"_qs, Show::Money},
-                              {u"dbg_sdjml_faktor"_qs, u"jml_faktor"_qs, u"Faktor"_qs, Show::Factor}});
+    m_ui->dbg_grp->setColumns({{u"dbg_grppilih"_s, u"pilih"_s, u"Pilih"_s, Show::Tick},
+                               {u"dbg_grpkode_grp"_s, u"kode_grp"_s, u"Kode group"_s},
+                               {u"dbg_grpgrp_name"_s, u"grp_name"_s, u"Nama group gaji"_s}});
+    m_ui->dbg_kom->setColumns({{u"dbg_kompilih"_s, u"pilih"_s, u"Pilih"_s, Show::Tick},
+                               {u"dbg_komcom_kode"_s, u"com_kode"_s, u"Kode"_s},
+                               {u"dbg_komcom_name"_s, u"com_name"_s, u"Nama komponen"_s},
+                               {u"dbg_komno_urut"_s, u"no_urut"_s, u"No urut"_s}});
+    m_ui->dbg_d->setColumns({{u"dbg_dpin"_s, u"pin"_s, u"PIN"_s},
+                             {u"dbg_dnik"_s, u"nik"_s, u"NIK"_s},
+                             {u"dbg_dnama"_s, u"nama"_s, u"Nama"_s},
+                             {u"dbg_dtot_payroll"_s, u"tot_payroll"_s, u"Jumlah gaji"_s, Show::Money}});
+    m_ui->dbg_sd->setColumns({{u"dbg_sdcom_kode"_s, u"com_kode"_s, u"Kode"_s},
+                              {u"dbg_sdcom_name"_s, u"com_name"_s, u"Nama komponen"_s},
+                              {u"dbg_sdjenis"_s, u"jenis"_s, u"+ / -"_s},
+                              {u"dbg_sdsubtot_payroll"_s, u"subtot_payroll"_s, u"Nilai uang"_s, Show::Money},
+                              {u"dbg_sdjml_faktor"_s, u"jml_faktor"_s, u"Faktor"_s, Show::Factor}});
     m_ui->dbg_grp->setDataSet(&cds_grp);
     m_ui->dbg_kom->setDataSet(&cds_komp);
     m_ui->dbg_d->setDataSet(&m_copy.cds_d);
     m_ui->dbg_sd->setDataSet(&m_copy.cds_sd);
-    m_ui->dbe_nama->bind(m_copy.cds_m, u"process_name"_qs);
-    m_ui->dbe_bulat->bind(m_copy.cds_m, u"round_value"_qs);
+    m_ui->dbe_nama->bind(m_copy.cds_m, u"process_name"_s);
+    m_ui->dbe_bulat->bind(m_copy.cds_m, u"round_value"_s);
     m_ui->dbe_bulat->acceptDigitsOnly();
-    m_ui->dbe_total->bind(m_copy.cds_m, u"tot_process"_qs);
+    m_ui->dbe_total->bind(m_copy.cds_m, u"tot_process"_s);
     m_ui->dbe_total->showMoney();
-    m_ui->dbtp_tgl_aw->bind(m_copy.cds_m, u"date1"_qs);
-    m_ui->dbtp_tgl_akh->bind(m_copy.cds_m, u"date2"_qs);
+    m_ui->dbtp_tgl_aw->bind(m_copy.cds_m, u"date1"_s);
+    m_ui->dbtp_tgl_akh->bind(m_copy.cds_m, u"date2"_s);
     m_ui->dtp_bulan->setLocale(QLocale(QLocale::Indonesian));
     m_ui->pnl_emp->hide();
     m_ui->pnl_proses->hide();
@@ -162,7 +163,7 @@ void Tfrm_isian_hitung_gaji::open_lists() {
 
 void Tfrm_isian_hitung_gaji::open_run() {
     for (QDateEdit* picker : {static_cast<QDateEdit*>(m_ui->dbtp_tgl_aw), static_cast<QDateEdit*>(m_ui->dbtp_tgl_akh)})
-        picker->setDisplayFormat(QStringLiteral("dd/MM/yyyy"));
+        picker->setDisplayFormat(u"dd/MM/yyyy"_s);
     // The caption of the language with the mode behind it.
     setWindowTitle(windowTitle() + u' ' + m_modeCaptions[m_task.mode].text());
     if (m_task.mode == RunFormTask::New) {
@@ -194,7 +195,7 @@ void Tfrm_isian_hitung_gaji::siapkan_baru() {
     m_copy.cds_m.editValue(u"round_value", 0);
     m_ui->chb_kredit->setChecked(false);
     m_ui->cmb_kredit->setCurrentIndex(0);
-    m_ui->dtp_bulan->setDisplayFormat(QStringLiteral("MMMM yyyy"));
+    m_ui->dtp_bulan->setDisplayFormat(u"MMMM yyyy"_s);
     m_ui->dtp_bulan->setDate(today);
     chb_kreditClick();
     show_total();
@@ -205,7 +206,7 @@ void Tfrm_isian_hitung_gaji::siapkan_baru() {
 
 void Tfrm_isian_hitung_gaji::siapkan_ubah() {
     m_ui->cmb_kredit->setCurrentIndex(0);
-    m_ui->dtp_bulan->setDisplayFormat(QStringLiteral("MMMM yyyy"));
+    m_ui->dtp_bulan->setDisplayFormat(u"MMMM yyyy"_s);
     m_ui->dtp_bulan->setDate(m_services.session.clock().date());
     m_ui->dbe_nama->setFocus();
     show_total();
@@ -229,7 +230,7 @@ void Tfrm_isian_hitung_gaji::segarkan_rincian() {
 
 run::Notice Tfrm_isian_hitung_gaji::compute(run::Run& run) {
     BusyScreen busy(m_ui->pnl_proses, m_ui->pgb_proses);
-    frame::Session& session = m_services.session;
+    base::Session& session = m_services.session;
     const auto show = [&busy](const run::Progress& progress) { busy.showProgress(progress.done, progress.of); };
     const run::Notice notice = run::computeRun(run, selections(), session.ADOConn, session.ADOConn_lang, show);
     // Not before all is read: a computation that stops leaves the lines as they were.
@@ -308,7 +309,7 @@ void Tfrm_isian_hitung_gaji::btn_simpanClick() {
 QString Tfrm_isian_hitung_gaji::who_and_when(const run::StoredRun& change) const {
     // The other station's program may write neither.
     const QString who = change.lastupdate_user.isEmpty() ? txt_pemakai_lain.text() : change.lastupdate_user;
-    return who + change.lastupdate_date.toString(QStringLiteral(" (dd/MM/yyyy HH:mm)"));
+    return who + change.lastupdate_date.toString(u" (dd/MM/yyyy HH:mm)"_s);
 }
 
 bool Tfrm_isian_hitung_gaji::simpan() {
@@ -337,7 +338,7 @@ run::Saved Tfrm_isian_hitung_gaji::write_run() {
 }
 
 void Tfrm_isian_hitung_gaji::selesai() {
-    save_log(m_task.mode == RunFormTask::New ? QStringLiteral("Insert") : QStringLiteral("Update"));
+    save_log(m_task.mode == RunFormTask::New ? u"Insert"_s : u"Update"_s);
     m_task.refresh();
     if (m_task.mode == RunFormTask::New && m_task.goToLast)
         m_task.goToLast();
@@ -345,13 +346,12 @@ void Tfrm_isian_hitung_gaji::selesai() {
 }
 
 void Tfrm_isian_hitung_gaji::save_log(const QString& action) {
-    const QString date = QStringLiteral("yyyy-MM-dd");
-    const QString note =
-        QStringLiteral("%1 - %2 - [%3, %4 -- %5]")
-            .arg(windowTitle(), action, m_ui->dbe_nama->text(), m_copy.cds_m.date(u"date1").toString(date),
-                 m_copy.cds_m.date(u"date2").toString(date));
+    const QString date = u"yyyy-MM-dd"_s;
+    const QString note = u"%1 - %2 - [%3, %4 -- %5]"_s.arg(windowTitle(), action, m_ui->dbe_nama->text(),
+                                                           m_copy.cds_m.date(u"date1").toString(date),
+                                                           m_copy.cds_m.date(u"date2").toString(date));
     fault::dropFault("catatan user log dari penyimpanan", [&] {
-        m_services.audit.WriteUserLog(m_services.session.login_id, note, frame::payrollModule,
+        m_services.audit.WriteUserLog(m_services.session.login_id, note, base::payrollModule,
                                       m_services.session.clock());
     });
 }

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "frame/base/screen.h"
-#include "frame/base/tick_list.h"
-#include "run/assembly.h"
+#include "base/screen.h"
+#include "base/tick_list.h"
 #include "run/form/working_copy.h"
+#include "run/reading/statements.h"
 #include "toolkit/data/mem_table.h"
 #include "toolkit/ui/named_text.h"
 
@@ -30,7 +30,7 @@ class Tfrm_isian_hitung_gaji final : public Screen {
     Q_OBJECT
 
 public:
-    Tfrm_isian_hitung_gaji(frame::Services& services, RunFormTask task, QWidget* parent);
+    Tfrm_isian_hitung_gaji(base::Services& services, RunFormTask task, QWidget* parent);
     ~Tfrm_isian_hitung_gaji() override;
 
 protected:
@@ -66,15 +66,15 @@ private:
     void open_run();
     void siapkan_baru();
     void siapkan_ubah();
-    void tick_groups(frame::TickWish wish);
-    void tick_components(frame::TickWish wish);
+    void tick_groups(base::TickWish wish);
+    void tick_components(base::TickWish wish);
     void dbg_grppilihToggleClick(const QString& text);
     void dbg_kompilihToggleClick(const QString& text);
     void isi_komponen_grup(int grp_id);
     void isi_daftar_karyawan();
-    void check_employees(frame::TickWish wish);
+    void check_employees(base::TickWish wish);
     void segarkan_rincian();
-    [[nodiscard]] run::Selections selections() const;
+    [[nodiscard]] run::SessionSelections selections() const;
     [[nodiscard]] run::EmployeeChoice chosen_employees() const;
     [[nodiscard]] run::Notice compute(run::Run& run);
     std::vector<run::RemovedLine> hitung();
@@ -104,17 +104,17 @@ private:
     data::MemTable vir_tb2;
     data::MemTable vir_emp;
     std::vector<int> clb_emp_id; ///< the employees behind the entries of clb_emp, in their order
-    NamedText m_modeCaptions[3]{{this, QStringLiteral("txt_baru"), QStringLiteral("[Data Baru]")},
-                                {this, QStringLiteral("txt_ubah"), QStringLiteral("[Ubah Data]")},
-                                {this, QStringLiteral("txt_lihat"), QStringLiteral("[Lihat Data]")}};
-    NamedText txt_pemakai_lain{this, QStringLiteral("txt_pemakai_lain"), QStringLiteral("komputer lain")};
-    NamedText txt_jumlah_benar{this, QStringLiteral("txt_jumlah_benar"), QStringLiteral("Jumlah semua baris: ")};
-    NamedText txt_tanpa_baris{this, QStringLiteral("txt_tanpa_baris"), QStringLiteral("Karyawan tanpa baris gaji")};
-    NamedText txt_siapa{this, QStringLiteral("txt_siapa"), QStringLiteral("Siapa...")};
+    NamedText m_modeCaptions[3]{{this, u"txt_baru", u"[Data Baru]"},
+                                {this, u"txt_ubah", u"[Ubah Data]"},
+                                {this, u"txt_lihat", u"[Lihat Data]"}};
+    NamedText txt_pemakai_lain{this, u"txt_pemakai_lain", u"komputer lain"};
+    NamedText txt_jumlah_benar{this, u"txt_jumlah_benar", u"Jumlah semua baris: "};
+    NamedText txt_tanpa_baris{this, u"txt_tanpa_baris", u"Karyawan tanpa baris gaji"};
+    NamedText txt_siapa{this, u"txt_siapa", u"Siapa..."};
     NamedText m_whyLeftOut[run::whyLeftOutCount]{
-        {this, QStringLiteral("txt_komponen_gagal"), QStringLiteral("komponen gagal dihitung")},
-        {this, QStringLiteral("txt_tanpa_aturan"), QStringLiteral("tidak ada komponen terpilih yang punya aturan")},
-        {this, QStringLiteral("txt_potongan_lebih"), QStringLiteral("potongan menghabiskan penerimaan")},
-        {this, QStringLiteral("txt_tidak_positif"), QStringLiteral("jumlah tidak positif")}};
+        {this, u"txt_komponen_gagal", u"komponen gagal dihitung"},
+        {this, u"txt_tanpa_aturan", u"tidak ada komponen terpilih yang punya aturan"},
+        {this, u"txt_potongan_lebih", u"potongan menghabiskan penerimaan"},
+        {this, u"txt_tidak_positif", u"jumlah tidak positif"}};
     bool baru_dibuka = true;
 };

@@ -2,14 +2,16 @@
 
 #include "run/form/fr_isian_hitung_gaji.h"
 
-#include "frame/base/tick_list.h"
-#include "run/statements.h"
+#include "base/tick_list.h"
+#include "run/reading/statements.h"
 #include "toolkit/data/clear_data_set.h"
 #include "toolkit/fault/drop_fault.h"
 #include "ui_fr_isian_hitung_gaji.h"
 
 #include <QResizeEvent>
 #include <QSignalBlocker>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,47 +20,47 @@ constexpr int pnlEmpBottomMargin = 12;
 
 } // namespace
 
-void Tfrm_isian_hitung_gaji::tick_groups(frame::TickWish wish) {
-    frame::setTicks(cds_grp, wish, [this](const QString& text) { dbg_grppilihToggleClick(text); });
+void Tfrm_isian_hitung_gaji::tick_groups(base::TickWish wish) {
+    base::setTicks(cds_grp, wish, [this](const QString& text) { dbg_grppilihToggleClick(text); });
     FitGridColumns(*m_ui->dbg_kom);
 }
 
 void Tfrm_isian_hitung_gaji::btn_select_allClick() {
-    tick_groups(frame::TickWish::All);
+    tick_groups(base::TickWish::All);
 }
 
 void Tfrm_isian_hitung_gaji::btn_disselect_allClick() {
-    tick_groups(frame::TickWish::None);
+    tick_groups(base::TickWish::None);
 }
 
 void Tfrm_isian_hitung_gaji::btn_invertClick() {
-    tick_groups(frame::TickWish::Invert);
+    tick_groups(base::TickWish::Invert);
 }
 
-void Tfrm_isian_hitung_gaji::tick_components(frame::TickWish wish) {
-    frame::setTicks(cds_komp, wish, [this](const QString& text) { dbg_kompilihToggleClick(text); });
+void Tfrm_isian_hitung_gaji::tick_components(base::TickWish wish) {
+    base::setTicks(cds_komp, wish, [this](const QString& text) { dbg_kompilihToggleClick(text); });
 }
 
 void Tfrm_isian_hitung_gaji::btn_select_all2Click() {
-    tick_components(frame::TickWish::All);
+    tick_components(base::TickWish::All);
 }
 
 void Tfrm_isian_hitung_gaji::btn_disselect_all2Click() {
-    tick_components(frame::TickWish::None);
+    tick_components(base::TickWish::None);
 }
 
 void Tfrm_isian_hitung_gaji::btn_invert2Click() {
-    tick_components(frame::TickWish::Invert);
+    tick_components(base::TickWish::Invert);
 }
 
 void Tfrm_isian_hitung_gaji::dbg_grppilihToggleClick(const QString& text) {
     const QVariant grp_id = cds_grp.value(u"grp_id");
     const bool listed = vir_tb.locate({{u"grp_id", grp_id}});
-    if (text == QLatin1String("-1") && !listed) {
+    if (text == "-1"_L1 && !listed) {
         vir_tb.append();
         vir_tb.setValue(u"grp_id", grp_id);
         vir_tb.post();
-    } else if (text != QLatin1String("-1") && listed) {
+    } else if (text != "-1"_L1 && listed) {
         vir_tb.remove();
     }
     const data::ViewsOff off(cds_komp);
@@ -72,12 +74,11 @@ void Tfrm_isian_hitung_gaji::dbg_grppilihToggleClick(const QString& text) {
 
 void Tfrm_isian_hitung_gaji::isi_komponen_grup(int grp_id) {
     data::SqlQuery& sql = m_services.session.sql_temp;
-    sql.openSql(QStringLiteral("select grp_com.*, com.com_kode, com.com_name, com.no_urut, "
-                               "if(com.type=0, 'Penerimaan', 'Potongan') as type from z_pay_grp_com as grp_com "
-                               "left join z_pay_grp as grp on grp_com.grp_id=grp.grp_id "
-                               "left join z_pay_com as com on grp_com.com_id=com.com_id where grp_com.grp_id=%1 "
-                               "order by com.type, com.no_urut ")
-                    .arg(grp_id));
+    sql.openSql(u"select grp_com.*, com.com_kode, com.com_name, com.no_urut, "
+                "if(com.type=0, 'Penerimaan', 'Potongan') as type from z_pay_grp_com as grp_com "
+                "left join z_pay_grp as grp on grp_com.grp_id=grp.grp_id "
+                "left join z_pay_com as com on grp_com.com_id=com.com_id where grp_com.grp_id=%1 "
+                "order by com.type, com.no_urut "_s.arg(grp_id));
     for (; !sql.isEof(); sql.next()) {
         if (cds_komp.rowOf({{u"com_id", sql.value(u"com_id")}}) >= 0)
             continue;
@@ -93,7 +94,7 @@ void Tfrm_isian_hitung_gaji::isi_komponen_grup(int grp_id) {
 void Tfrm_isian_hitung_gaji::dbg_kompilihToggleClick(const QString& text) {
     const QVariant com_id = cds_komp.value(u"com_id");
     const bool listed = vir_tb2.locate({{u"com_id", com_id}});
-    if (text != QLatin1String("-1")) {
+    if (text != "-1"_L1) {
         if (listed)
             vir_tb2.remove();
         return;
@@ -161,8 +162,8 @@ void Tfrm_isian_hitung_gaji::isi_daftar_karyawan() {
     data::SqlQuery& sql = m_services.session.sql_cek;
     for (vir_tb.first(); !vir_tb.isEof(); vir_tb.next()) {
         const int grp_id = vir_tb.integer32(u"grp_id");
-        for (sql.openSql(run::membersStatement(grp_id, frame::Branch::all())); !sql.isEof(); sql.next()) {
-            auto* item = new QListWidgetItem(QStringLiteral("[%1] %2").arg(sql.text(u"pin"), sql.text(u"nama")));
+        for (sql.openSql(run::membersStatement(grp_id, base::Branch::all())); !sql.isEof(); sql.next()) {
+            auto* item = new QListWidgetItem(u"[%1] %2"_s.arg(sql.text(u"pin"), sql.text(u"nama")));
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
             item->setCheckState(Qt::Unchecked);
             m_ui->clb_emp->addItem(item);
@@ -176,7 +177,7 @@ void Tfrm_isian_hitung_gaji::isi_daftar_karyawan() {
             vir_emp.post();
         }
     }
-    m_ui->lbl_jml->setText(QStringLiteral("0"));
+    m_ui->lbl_jml->setText(u"0"_s);
 }
 
 void Tfrm_isian_hitung_gaji::clb_empClickCheck() {
@@ -186,13 +187,13 @@ void Tfrm_isian_hitung_gaji::clb_empClickCheck() {
     m_ui->lbl_jml->setText(QString::number(count));
 }
 
-void Tfrm_isian_hitung_gaji::check_employees(frame::TickWish wish) {
+void Tfrm_isian_hitung_gaji::check_employees(base::TickWish wish) {
     {
         const QSignalBlocker quiet(m_ui->clb_emp);
         for (int i = 0; i < m_ui->clb_emp->count(); ++i) {
             QListWidgetItem* item = m_ui->clb_emp->item(i);
             const bool ticked =
-                wish == frame::TickWish::All || (wish == frame::TickWish::Invert && item->checkState() != Qt::Checked);
+                wish == base::TickWish::All || (wish == base::TickWish::Invert && item->checkState() != Qt::Checked);
             item->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
         }
     }
@@ -201,15 +202,15 @@ void Tfrm_isian_hitung_gaji::check_employees(frame::TickWish wish) {
 }
 
 void Tfrm_isian_hitung_gaji::btn_sel_allClick() {
-    check_employees(frame::TickWish::All);
+    check_employees(base::TickWish::All);
 }
 
 void Tfrm_isian_hitung_gaji::btn_disel_allClick() {
-    check_employees(frame::TickWish::None);
+    check_employees(base::TickWish::None);
 }
 
 void Tfrm_isian_hitung_gaji::btn_balikClick() {
-    check_employees(frame::TickWish::Invert);
+    check_employees(base::TickWish::Invert);
 }
 
 void Tfrm_isian_hitung_gaji::chb_kreditClick() {
@@ -241,8 +242,8 @@ run::EmployeeChoice Tfrm_isian_hitung_gaji::chosen_employees() const {
     return choice;
 }
 
-run::Selections Tfrm_isian_hitung_gaji::selections() const {
-    run::Selections chosen;
+run::SessionSelections Tfrm_isian_hitung_gaji::selections() const {
+    run::SessionSelections chosen;
     chosen.period = {m_ui->dbtp_tgl_aw->date(), m_ui->dbtp_tgl_akh->date()};
     const auto number = [](const data::DataSet& set, int row, QStringView field) {
         return data::integer32Of(set.valueAt(row, set.fieldIndex(field)));

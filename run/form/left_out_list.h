@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/base/fr_daftar.h"
+#include "base/fr_daftar.h"
 
 /// The list of employees who got no line in a run: PIN, NIK, name, cause.
-[[nodiscard]] frame::TextList leftOutList(QList<QStringList> rows);
+[[nodiscard]] base::TextList leftOutList(QList<QStringList> rows);

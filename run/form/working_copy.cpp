@@ -7,23 +7,25 @@
 #include <cmath>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace run {
 
 namespace {
 
-const QString selectHeader = QStringLiteral("SELECT * , 0 as pilih FROM z_pay_process_m where process_id=:process_id");
+const QString selectHeader = u"SELECT * , 0 as pilih FROM z_pay_process_m where process_id=:process_id"_s;
 
-const QString selectLines = QStringLiteral(
-    R"(select d.*, e.pin, e.nik , concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama
+const QString selectLines =
+    uR"(select d.*, e.pin, e.nik , concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama
        from z_pay_process_d as d left join emp as e on d.emp_id_auto=e.emp_id_auto
-       where d.process_id=:process_id order by d.no_urut)");
+       where d.process_id=:process_id order by d.no_urut)"_s;
 
-const QString selectRows = QStringLiteral(
-    R"(select sd.*, c.com_kode, c.com_name, c.type, e.pin, e.nik , if(type=0, '(+)', '(-)') as jenis
+const QString selectRows =
+    uR"(select sd.*, c.com_kode, c.com_name, c.type, e.pin, e.nik , if(type=0, '(+)', '(-)') as jenis
        , concat(ifnull(e.first_name,''),' ',ifnull(e.last_name, '')) as nama
        from z_pay_process_sd as sd left join z_pay_com as c on sd.com_id=c.com_id
        left join emp as e on sd.emp_id_auto=e.emp_id_auto
-       where sd.process_id=:process_id order by sd.no_urut, c.type, c.no_urut)");
+       where sd.process_id=:process_id order by sd.no_urut, c.type, c.no_urut)"_s;
 
 } // namespace
 
@@ -43,16 +45,12 @@ private:
 
 WorkingCopy::WorkingCopy(db::Connection& main, Author author) :
     sql_m(main, selectHeader), sql_d(main, selectLines), sql_sd(main, selectRows),
-    cds_m({&sql_m, QStringLiteral("z_pay_process_m"), {QStringLiteral("process_id")}, {QStringLiteral("pilih")}}),
-    cds_d({&sql_d,
-           QStringLiteral("z_pay_process_d"),
-           {QStringLiteral("process_id"), QStringLiteral("no_urut")},
-           {QStringLiteral("pin"), QStringLiteral("nik"), QStringLiteral("nama")}}),
+    cds_m({&sql_m, u"z_pay_process_m"_s, {u"process_id"_s}, {u"pilih"_s}}),
+    cds_d({&sql_d, u"z_pay_process_d"_s, {u"process_id"_s, u"no_urut"_s}, {u"pin"_s, u"nik"_s, u"nama"_s}}),
     cds_sd({&sql_sd,
-            QStringLiteral("z_pay_process_sd"),
-            {QStringLiteral("process_id"), QStringLiteral("no_urut"), QStringLiteral("no_urut_ref")},
-            {QStringLiteral("com_kode"), QStringLiteral("com_name"), QStringLiteral("type"), QStringLiteral("pin"),
-             QStringLiteral("nik"), QStringLiteral("jenis"), QStringLiteral("nama")}}),
+            u"z_pay_process_sd"_s,
+            {u"process_id"_s, u"no_urut"_s, u"no_urut_ref"_s},
+            {u"com_kode"_s, u"com_name"_s, u"type"_s, u"pin"_s, u"nik"_s, u"jenis"_s, u"nama"_s}}),
     m_main(main), m_author(std::move(author)) {
     connectEvents();
 }
@@ -81,7 +79,7 @@ int WorkingCopy::lastValue(const data::DataSet& set, QStringView field) {
 }
 
 void WorkingCopy::cds_mNewRecord() {
-    data::SqlQuery sql(m_main, QStringLiteral("select max(process_id) as process_id from z_pay_process_m "));
+    data::SqlQuery sql(m_main, u"select max(process_id) as process_id from z_pay_process_m "_s);
     sql.open();
     cds_m.setValue(u"process_id", sql.integer(u"process_id") + 1);
     stamp();
@@ -118,7 +116,7 @@ void WorkingCopy::cds_sdBeforeDelete() {
 
 void WorkingCopy::filterRows() {
     const bool isLine = !cds_d.isNull(u"emp_id_auto");
-    cds_sd.setFilter(QStringLiteral("no_urut"), isLine ? cds_d.value(u"no_urut") : QVariant(0));
+    cds_sd.setFilter(u"no_urut"_s, isLine ? cds_d.value(u"no_urut") : QVariant(0));
 }
 
 void WorkingCopy::segarkan_rincian() {
@@ -138,7 +136,7 @@ void WorkingCopy::open(int process_id) {
 
 void WorkingCopy::load(const QVariant& process_id) {
     for (data::SqlQuery* sql : {&sql_m, &sql_d, &sql_sd})
-        sql->setParameter(QStringLiteral("process_id"), process_id);
+        sql->setParameter(u"process_id"_s, process_id);
     const Walk walk(*this);
     cds_sd.clearFilter();
     cds_m.reopen();

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "run/form/stored_run.h"
-#include "run/totals.h"
+#include "run/rules/totals.h"
 #include "toolkit/data/client_data_set.h"
 
 #include <functional>

@@ -1,12 +1,14 @@
 #include "tests/data/listing.h"
 
+using namespace Qt::StringLiterals;
+
 QStringList rowsOf(const data::DataSet& set) {
     QStringList rows;
     for (int row = 0; row < set.rowCount(); ++row) {
         QStringList values;
         for (int field = 0; field < int(set.fields().size()); ++field) {
             const QVariant& value = set.valueAt(row, field);
-            values << (value.isValid() ? data::textOf(value) : QStringLiteral("NULL"));
+            values << (value.isValid() ? data::textOf(value) : u"NULL"_s);
         }
         rows << values.join(u' ');
     }
@@ -17,7 +19,7 @@ std::string listing(const data::DataSet& set) {
     QStringList rows = rowsOf(set);
     if (set.row() >= 0 && set.row() < rows.size())
         rows[set.row()] = u'[' + rows[set.row()] + u']';
-    return rows.join(QStringLiteral(" | ")).toStdString();
+    return rows.join(u" | "_s).toStdString();
 }
 
 std::vector<data::Field> integerFields(const QStringList& names) {

@@ -14,6 +14,8 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QByteArray output(const QString& program, const QStringList& arguments) {
@@ -27,27 +29,27 @@ QByteArray output(const QString& program, const QStringList& arguments) {
 class ForeignServer final {
 public:
     ForeignServer() {
-        const QString file = m_folder.path() + u"/tls.pem"_qs;
-        output(u"openssl"_qs, {u"req"_qs, u"-x509"_qs, u"-newkey"_qs, u"rsa:2048"_qs, u"-nodes"_qs, u"-subj"_qs,
-                               u"/CN=test"_qs, u"-keyout"_qs, file, u"-out"_qs, file + u".crt"_qs});
-        tool(u"start"_qs,
-             {u"ssl-key="_qs + file, u"ssl-cert="_qs + file + u".crt"_qs, u"character-set-client-handshake=OFF"_qs,
-              u"character-set-server=gbk"_qs, u"collation-server=gbk_chinese_ci"_qs, u"init-connect=set names gbk"_qs});
-        const QString env = QString::fromLatin1(tool(u"env"_qs, {}));
+        const QString file = m_folder.path() + u"/tls.pem"_s;
+        output(u"openssl"_s, {u"req"_s, u"-x509"_s, u"-newkey"_s, u"rsa:2048"_s, u"-nodes"_s, u"-subj"_s, u"/CN=test"_s,
+                              u"-keyout"_s, file, u"-out"_s, file + u".crt"_s});
+        tool(u"start"_s,
+             {u"ssl-key="_s + file, u"ssl-cert="_s + file + u".crt"_s, u"character-set-client-handshake=OFF"_s,
+              u"character-set-server=gbk"_s, u"collation-server=gbk_chinese_ci"_s, u"init-connect=set names gbk"_s});
+        const QString env = QString::fromLatin1(tool(u"env"_s, {}));
         const auto value = [&](const QString& name) {
-            return env.section(u"ORVANE_DB_"_qs + name + u'=', 1).section(u'\n', 0, 0);
+            return env.section(u"ORVANE_DB_"_s + name + u'=', 1).section(u'\n', 0, 0);
         };
-        settings = {value(u"HOST"_qs), value(u"PORT"_qs).toUShort(), value(u"USER"_qs), value(u"PASSWORD"_qs), {}};
-        process = tool(u"status"_qs, {}).split(' ').value(2).chopped(1).toInt();
+        settings = {value(u"HOST"_s), value(u"PORT"_s).toUShort(), value(u"USER"_s), value(u"PASSWORD"_s), {}};
+        process = tool(u"status"_s, {}).split(' ').value(2).chopped(1).toInt();
     }
     ~ForeignServer() {
         kill(process, SIGCONT);
-        tool(u"stop"_qs, {});
+        tool(u"stop"_s, {});
     }
 
     void halt() {
         kill(process, SIGSTOP);
-        QFile state(u"/proc/%1/stat"_qs.arg(process));
+        QFile state(u"/proc/%1/stat"_s.arg(process));
         // The signal takes its time on its way to the last of the threads.
         while (state.open(QIODevice::ReadOnly) && !state.readAll().contains(") T"))
             state.close();
@@ -58,9 +60,9 @@ public:
 
 private:
     QByteArray tool(const QString& action, const QStringList& options) {
-        QStringList arguments{action, u"--dir"_qs, m_folder.path()};
+        QStringList arguments{action, u"--dir"_s, m_folder.path()};
         for (const QString& option : options)
-            arguments << u"--server-option="_qs + option;
+            arguments << u"--server-option="_s + option;
         return output(QStringLiteral(SERVER_TOOL), arguments);
     }
 
@@ -163,7 +165,7 @@ TEST(AServerAfterThePassword, GetsProofsOfItOnly) {
     for (const PasswordThief::Ways& ways : cases) {
         PasswordThief thief(ways);
         db::Connection connection;
-        connection.configure({u"127.0.0.1"_qs, thief.port(), u"penggaji"_qs, QString::fromLatin1(password), {}});
+        connection.configure({u"127.0.0.1"_s, thief.port(), u"penggaji"_s, QString::fromLatin1(password), {}});
         EXPECT_THROW(connection.open(), db::Fault);
         thief.finish();
         EXPECT_FALSE(thief.heard.contains(password)) << ways.greeting << ' ' << ways.asked;
@@ -178,11 +180,11 @@ TEST(AServerThatSaysNothing, IsWaitedForOnceByStatementsInARowAndAskedAgainLater
     socklen_t size = sizeof address;
     ::getsockname(listener, reinterpret_cast<sockaddr*>(&address), &size);
     db::Connection connection;
-    connection.configure({u"127.0.0.1"_qs, ntohs(address.sin_port), u"penggaji"_qs, {}, {}},
+    connection.configure({u"127.0.0.1"_s, ntohs(address.sin_port), u"penggaji"_s, {}, {}},
                          {.connect = std::chrono::seconds(2), .quiet = std::chrono::seconds(2)});
     const auto calls = [&](int statements) {
         for (int i = 0; i < statements; ++i)
-            EXPECT_THROW((void)connection.query(u"select 1"_qs), db::Fault);
+            EXPECT_THROW((void)connection.query(u"select 1"_s), db::Fault);
         int count = 0;
         for (int socket; (socket = ::accept(listener, nullptr, nullptr)) >= 0; ::close(socket))
             ++count;
@@ -198,25 +200,25 @@ TEST(AForeignServer, StoresTextsAsTheyAreIsSpokenToInSecretAndNoticedWhenItStops
     ForeignServer server;
     db::Connection owner;
     owner.configure(server.settings);
-    owner.execute(u"create database gaji character set utf8mb4"_qs);
-    owner.execute(u"create table gaji.run(name varchar(100))"_qs);
+    owner.execute(u"create database gaji character set utf8mb4"_s);
+    owner.execute(u"create table gaji.run(name varchar(100))"_s);
     // What the server runs for each new session it runs for ordinary users only.
-    owner.execute(u"grant all on gaji.* to biasa identified by 'biasa'"_qs);
-    server.settings.user = server.settings.password = u"biasa"_qs;
+    owner.execute(u"grant all on gaji.* to biasa identified by 'biasa'"_s);
+    server.settings.user = server.settings.password = u"biasa"_s;
     db::Connection connection;
     connection.configure(server.settings, {.connect = std::chrono::seconds(1), .quiet = std::chrono::seconds(1)});
-    EXPECT_FALSE(TestDatabase::rows(connection, u"show session status like 'Ssl_cipher'"_qs).first().endsWith(u'\t'));
+    EXPECT_FALSE(TestDatabase::rows(connection, u"show session status like 'Ssl_cipher'"_s).first().endsWith(u'\t'));
 
     // Read as gbk, half of the letter takes the first backslash along, and the second one frees the quote.
-    const QString name = u"Gaji 中\\'), (database()) -- ü"_qs;
-    connection.execute(u"insert into gaji.run values("_qs + EscapeSqlText(name) + u')');
-    EXPECT_EQ(TestDatabase::rows(connection, u"select name from gaji.run"_qs), QStringList{name});
+    const QString name = u"Gaji 中\\'), (database()) -- ü"_s;
+    connection.execute(u"insert into gaji.run values("_s + EscapeSqlText(name) + u')');
+    EXPECT_EQ(TestDatabase::rows(connection, u"select name from gaji.run"_s), QStringList{name});
     const QString large(3'000'000, u'x');
-    EXPECT_EQ(TestDatabase::rows(connection, u"select length('%1')"_qs.arg(large)), QStringList{u"3000000"_qs});
+    EXPECT_EQ(TestDatabase::rows(connection, u"select length('%1')"_s.arg(large)), QStringList{u"3000000"_s});
 
     server.halt();
     try {
-        (void)connection.query(u"select 1"_qs);
+        (void)connection.query(u"select 1"_s);
         ADD_FAILURE() << "a stopped server answers";
     } catch (const db::Fault& fault) {
         EXPECT_STREQ(fault.what(), "The server has stopped answering");
@@ -224,5 +226,5 @@ TEST(AForeignServer, StoresTextsAsTheyAreIsSpokenToInSecretAndNoticedWhenItStops
     kill(server.process, SIGCONT);
     // For as long as one connect may take, its silence is taken for granted.
     std::this_thread::sleep_for(std::chrono::seconds(1));
-    EXPECT_EQ(connection.query(u"select 1"_qs).rowCount(), 1);
+    EXPECT_EQ(connection.query(u"select 1"_s).rowCount(), 1);
 }

@@ -4,13 +4,15 @@
 #include <QDate>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const db::Parameters values{{QStringLiteral("tanggal_awal"), QDate(2026, 10, 1)},
-                            {QStringLiteral("id"), 7},
-                            {QStringLiteral("id_2"), 2.5},
-                            {QStringLiteral("nama"), QStringLiteral("O'Brien \\ Co")},
-                            {QStringLiteral("kosong"), QVariant()}};
+const db::Parameters values{{u"tanggal_awal"_s, QDate(2026, 10, 1)},
+                            {u"id"_s, 7},
+                            {u"id_2"_s, 2.5},
+                            {u"nama"_s, u"O'Brien \\ Co"_s},
+                            {u"kosong"_s, QVariant()}};
 
 } // namespace
 
@@ -30,5 +32,5 @@ TEST(BindParameters, ReplacesNamesOutsideTextsNamesAndComments) {
     };
     for (const auto& [sql, expected] : cases)
         EXPECT_EQ(db::bindParameters(QString::fromUtf8(sql), values).toStdString(), expected);
-    EXPECT_THROW((void)db::bindParameters(QStringLiteral("select :nobody"), values), db::Fault);
+    EXPECT_THROW((void)db::bindParameters(u"select :nobody"_s, values), db::Fault);
 }

@@ -4,12 +4,14 @@
 #include <QRandomGenerator>
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Texts made mostly of what ends or escapes a literal.
 QString hostileText(QRandomGenerator& random) {
-    static const QString parts[] = {u"\\"_qs, u"'"_qs, u"\""_qs, u"\\'"_qs, u"%"_qs, u"a"_qs, u" "_qs, u"--"_qs,
-                                    u"/*"_qs, u";"_qs, u"\n"_qs, u"\0"_qs,  u"é"_qs, u"😀"_qs, u"_"_qs, u"\u001a"_qs};
+    static const QString parts[] = {u"\\"_s, u"'"_s, u"\""_s, u"\\'"_s, u"%"_s, u"a"_s, u" "_s, u"--"_s,
+                                    u"/*"_s, u";"_s, u"\n"_s, u"\0"_s,  u"é"_s, u"😀"_s, u"_"_s, u"\u001a"_s};
     QString text;
     for (int i = random.bounded(12); i > 0; --i)
         text += parts[random.bounded(int(std::size(parts)))];
@@ -18,10 +20,10 @@ QString hostileText(QRandomGenerator& random) {
 
 /// What the server makes of a literal, with a second column that shows whether the literal kept to itself.
 QString readBack(db::Connection& connection, const QString& literal) {
-    db::Result result = connection.query(u"select "_qs + literal + u" as value, 'fence' as fence"_qs);
+    db::Result result = connection.query(u"select "_s + literal + u" as value, 'fence' as fence"_s);
     EXPECT_TRUE(result.rowCount() == 1 && result.columns().size() == 2 && result.next());
-    EXPECT_EQ(result.text(u"fence"_qs), u"fence"_qs);
-    return result.text(u"value"_qs);
+    EXPECT_EQ(result.text(u"fence"_s), u"fence"_s);
+    return result.text(u"value"_s);
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "frame/base/fr_browse_emp.h"
+#include "base/fr_browse_emp.h"
 #include "tests/frame/fixture.h"
 #include "toolkit/ui/data_grid.h"
 #include "toolkit/ui/lookup_box.h"
@@ -9,6 +9,8 @@
 #include <QPushButton>
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -67,21 +69,21 @@ TEST_F(Browser, FindsExactNumbersAndBeginningsOfNames) {
 }
 
 TEST_F(Browser, LimitedSessionSeesItsBranchOnly) {
-    company.services.session.session_cab_id = frame::Branch::one(3);
+    company.services.session.session_cab_id = base::Branch::one(3);
     open(BrowseMode::Everybody);
     EXPECT_EQ(pins(), "3,4,6");
     choose(4);
     EXPECT_EQ(search(), "3,4,6");
     EXPECT_EQ(search(1, "1"), "");
-    company.services.session.session_cab_id = frame::Branch();
+    company.services.session.session_cab_id = base::Branch();
     open(BrowseMode::Everybody);
     EXPECT_EQ(pins(), "");
     EXPECT_EQ(search(1, "3"), "");
 }
 
 TEST_F(Browser, PaymentsGoOnlyToOpenLoans) {
-    company.database.run(QStringLiteral("insert into zx_kredit_m(id_kredit, emp_id_auto, status_lunas) values(1, 1, 0),"
-                                        "(2, 1, -1), (3, 3, -1), (4, 5, 0)"));
+    company.database.run(u"insert into zx_kredit_m(id_kredit, emp_id_auto, status_lunas) values(1, 1, 0),"
+                         "(2, 1, -1), (3, 3, -1), (4, 5, 0)"_s);
     open(BrowseMode::WithOpenLoan);
     EXPECT_EQ(pins(), "1");
     EXPECT_EQ(search(1, "3"), "");
@@ -91,7 +93,7 @@ TEST_F(Browser, HandsTheNameOfTheCurrentRowOver) {
     open(BrowseMode::Everybody);
     EXPECT_EQ(search(1, "3"), "3");
     child<QPushButton>(*form, u"btn_ok").click();
-    EXPECT_EQ(handedOver, QStringList(QStringLiteral("Ma'ruf Ali")));
+    EXPECT_EQ(handedOver, QStringList(u"Ma'ruf Ali"_s));
     EXPECT_FALSE(form->isVisible());
     open(BrowseMode::Everybody);
     EXPECT_EQ(search(1, "nobody"), "");

@@ -1,9 +1,11 @@
-#include "frame/base/dept_tree.h"
+#include "base/dept_tree.h"
 #include "tests/frame/fixture.h"
 
 #include <QTreeWidget>
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -11,7 +13,7 @@ namespace {
 void print(const TreeBox& box, const QTreeWidgetItem* parent, int level, QStringList& lines) {
     for (int i = 0; i < parent->childCount(); ++i) {
         const QTreeWidgetItem* entry = parent->child(i);
-        lines << QString(level, u'.') + entry->text(0) + (entry == box.chosen() ? QStringLiteral(" <") : QString());
+        lines << QString(level, u'.') + entry->text(0) + (entry == box.chosen() ? u" <"_s : QString());
         print(box, entry, level + 1, lines);
     }
 }
@@ -26,11 +28,10 @@ class DepartmentTree : public testing::Test {
 protected:
     /// Fills the box from these rows of dept alone.
     std::string filled(const char* rows) {
-        company.database.run(QStringLiteral("delete from dept"));
+        company.database.run(u"delete from dept"_s);
         if (*rows)
-            company.database.run(QStringLiteral("insert into dept(dept_id_auto, dept_name) values ") +
-                                 QString::fromUtf8(rows));
-        frame::FillDeptTree(box, company.services.session);
+            company.database.run(u"insert into dept(dept_id_auto, dept_name) values "_s + QString::fromUtf8(rows));
+        base::FillDeptTree(box, company.services.session);
         return treeOf(box);
     }
 
@@ -47,33 +48,32 @@ TEST_F(DepartmentTree, StandsWhateverTheOrderOfTheRowsOfALevel) {
 TEST_F(DepartmentTree, OrphanStandsUnderTheRootAndIsSearchedByItsStoredPath) {
     EXPECT_EQ(filled(R"((1,'PT'), (2,'PT\\A'), (3,'PT\\a\\Y'), (4,'PT\\A\\Z'), (5,'PT\\a\\Y\\X'))"),
               R"(PT <|.A|..Z|.PT\a\Y|..X)");
-    box.choose(box.tree().findItems(QStringLiteral("X"), Qt::MatchExactly | Qt::MatchRecursive).first());
-    EXPECT_EQ(frame::deptPath(box), QStringLiteral(R"(PT\\\\a\\\\Y\\\\X)"));
+    box.choose(box.tree().findItems(u"X"_s, Qt::MatchExactly | Qt::MatchRecursive).first());
+    EXPECT_EQ(base::deptPath(box), uR"(PT\\\\a\\\\Y\\\\X)"_s);
     EXPECT_EQ(filled(R"((2,'Lain\\B'), (1,'Lain\\A'))"), R"(Lain\A <|.Lain\B)");
-    EXPECT_EQ(frame::deptPath(box), QStringLiteral(R"(Lain\\\\A)"));
+    EXPECT_EQ(base::deptPath(box), uR"(Lain\\\\A)"_s);
 }
 
 TEST_F(DepartmentTree, SuiteWithoutDepartmentsGetsItsRoot) {
     EXPECT_EQ(filled(""), "Nama Perusahaan <");
-    EXPECT_EQ(company.database.rows(QStringLiteral("select * from dept")),
-              QStringList(QStringLiteral("1\tNama Perusahaan\tNULL")));
+    EXPECT_EQ(company.database.rows(u"select * from dept"_s), QStringList(u"1\tNama Perusahaan\tNULL"_s));
 }
 
 TEST_F(DepartmentTree, PathOfTheChosenEntryHasFourBackslashesPerStep) {
-    frame::FillDeptTree(box, company.services.session);
-    EXPECT_EQ(frame::deptPath(box), QStringLiteral("PT"));
-    box.choose(box.tree().findItems(QStringLiteral("Las"), Qt::MatchExactly | Qt::MatchRecursive).first());
-    EXPECT_EQ(frame::deptPath(box), QStringLiteral(R"(PT\\\\Produksi\\\\Las)"));
+    base::FillDeptTree(box, company.services.session);
+    EXPECT_EQ(base::deptPath(box), u"PT"_s);
+    box.choose(box.tree().findItems(u"Las"_s, Qt::MatchExactly | Qt::MatchRecursive).first());
+    EXPECT_EQ(base::deptPath(box), uR"(PT\\\\Produksi\\\\Las)"_s);
 }
 
 TEST_F(DepartmentTree, DepartmentsWithEmployeesHaveAPictureOfTheirOwn) {
-    company.database.run(QStringLiteral("delete from emp where dept_id_auto=4"));
-    frame::FillDeptTree(box, company.services.session);
+    company.database.run(u"delete from emp where dept_id_auto=4"_s);
+    base::FillDeptTree(box, company.services.session);
     const auto picture = [this](const QString& text) {
         return box.tree().findItems(text, Qt::MatchExactly | Qt::MatchRecursive).first()->icon(0).cacheKey();
     };
-    EXPECT_EQ(picture(QStringLiteral("Produksi")), picture(QStringLiteral("Las")));
-    EXPECT_NE(picture(QStringLiteral("Produksi")), picture(QStringLiteral("Produksi Dua")));
+    EXPECT_EQ(picture(u"Produksi"_s), picture(u"Las"_s));
+    EXPECT_NE(picture(u"Produksi"_s), picture(u"Produksi Dua"_s));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "frame/base/filter_block.h"
+#include "base/filter_block.h"
 #include "tests/frame/fixture.h"
 #include "toolkit/ui/lookup_box.h"
 #include "toolkit/ui/tree_box.h"
@@ -9,9 +9,11 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-using frame::FilterBlock;
+using base::FilterBlock;
 
 /// What the user enters after choosing a field: a text, or the text of an entry.
 struct Entry {
@@ -104,32 +106,33 @@ TEST_F(Filter, AnotherFieldForgetsWhatWasChosenBefore) {
 }
 
 TEST_F(Filter, OfTwoEntriesThatReadAlikeTheChosenOneStays) {
-    company.database.run(QStringLiteral("insert into func values(8, 'Kepala'), (9, 'Kepala')"));
+    company.database.run(u"insert into func values(8, 'Kepala'), (9, 'Kepala')"_s);
     block.openLookups();
     block.select(FilterBlock::Jabatan);
     auto& box = child<LookupBox>(block, u"lookup_jbt");
     box.setKey(9);
     Q_EMIT box.activated(box.currentIndex());
     Q_EMIT box.lineEdit()->editingFinished();
-    EXPECT_EQ(block.conditionByKey(), QStringLiteral(" and func_id_auto=9 "));
+    EXPECT_EQ(block.conditionByKey(), u" and func_id_auto=9 "_s);
 }
 
 TEST_F(Filter, LimitedSessionKeepsItsBranchAfterEachChange) {
-    company.services.session.session_cab_id = frame::Branch::one(3);
-    EXPECT_EQ(block.baseCondition(), QStringLiteral("where emp_id_auto<>-1 and emp_status=0 and cab_id_auto=3 "));
+    company.services.session.session_cab_id = base::Branch::one(3);
+    EXPECT_EQ(block.baseCondition(), u"where emp_id_auto<>-1 and emp_status=0 and cab_id_auto=3 "_s);
     for (const int index : {FilterBlock::Semua, FilterBlock::Cabang, FilterBlock::Jabatan}) {
         block.select(index);
-        EXPECT_EQ(child<LookupBox>(block, u"lookup_cab").text(), QStringLiteral("Cabang D'Or"));
+        EXPECT_EQ(child<LookupBox>(block, u"lookup_cab").text(), u"Cabang D'Or"_s);
         EXPECT_FALSE(child<LookupBox>(block, u"lookup_cab").isEnabled());
     }
     block.select(FilterBlock::Cabang);
-    EXPECT_EQ(block.conditionByKey(), QStringLiteral(" and cab_id_auto=3 "));
-    EXPECT_EQ(block.conditionByName(), QStringLiteral(" and cab_name='Cabang D''Or' and cab_id_auto=3  and dept_name like 'PT%' "));
+    EXPECT_EQ(block.conditionByKey(), u" and cab_id_auto=3 "_s);
+    EXPECT_EQ(block.conditionByName(), u" and cab_name='Cabang D''Or' and cab_id_auto=3  and dept_name like 'PT%' "_s);
     // Neither a branch without a name nor one that is not known yet opens the search by name.
-    for (const auto& [limit, condition] : {std::pair(frame::Branch::one(9), "and cab_id_auto=9 "),
-                                           std::pair(frame::Branch(), "and cab_id_auto=NULL ")}) {
+    for (const auto& [limit, condition] :
+         {std::pair(base::Branch::one(9), "and cab_id_auto=9 "), std::pair(base::Branch(), "and cab_id_auto=NULL ")}) {
         company.services.session.session_cab_id = limit;
-        EXPECT_EQ(byName({FilterBlock::Cabang, "Pusat"}), " and cab_name='Pusat' " + (condition + std::string(" and dept_name like 'PT%' ")));
+        EXPECT_EQ(byName({FilterBlock::Cabang, "Pusat"}),
+                  " and cab_name='Pusat' " + (condition + std::string(" and dept_name like 'PT%' ")));
         EXPECT_EQ(block.baseCondition().toStdString(),
                   std::string("where emp_id_auto<>-1 and emp_status=0 ") + condition);
     }
@@ -137,7 +140,7 @@ TEST_F(Filter, LimitedSessionKeepsItsBranchAfterEachChange) {
 
 TEST_F(Filter, ScreensMayAddFieldsWithTheirOwnControl) {
     auto* control = new QLineEdit;
-    const int index = block.addItem(QStringLiteral("Group Gaji"), control);
+    const int index = block.addItem(u"Group Gaji"_s, control);
     EXPECT_EQ(index, 7);
     EXPECT_TRUE(control->isHidden());
     block.select(index);

@@ -3,6 +3,8 @@
 #include <QApplication>
 #include <QTimer>
 
+using namespace Qt::StringLiterals;
+
 SmallCompany::SmallCompany() {
     database.run(QString::fromUtf8(R"(
         insert into cabang values(1, 'Pusat'), (3, 'Cabang D''Or');
@@ -19,10 +21,10 @@ SmallCompany::SmallCompany() {
             (5, '5', 'N5', 'Ani', 'Keluar', 1, 2, 1, 1),
             (6, '6', 'N6', '%', 'Persen', 3, 3, 2, 0)
     )"));
-    services.session.session_cab_id = frame::Branch::all();
+    services.session.session_cab_id = base::Branch::all();
     services.session.ADOConn.configure(database.mainSettings());
     services.session.ADOConn_lang.configure(database.appSettings());
-    database.runApp(QStringLiteral("insert into global_setting values('default_lang', 'indonesia')"));
+    database.runApp(u"insert into global_setting values('default_lang', 'indonesia')"_s);
     QWidget form;
     services.language.ApplyLanguage(form);
 }

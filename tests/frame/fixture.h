@@ -1,6 +1,6 @@
 #pragma once
 
-#include "frame/base/services.h"
+#include "base/services.h"
 #include "tests/support/test_database.h"
 #include "toolkit/ui/message_dialog.h"
 
@@ -12,7 +12,7 @@ struct SmallCompany {
     SmallCompany();
 
     TestDatabase database;
-    frame::Services services{[] { return QDateTime(QDate(2026, 11, 5), QTime(10, 0)); }, nullptr};
+    base::Services services{[] { return QDateTime(QDate(2026, 11, 5), QTime(10, 0)); }, nullptr};
 };
 
 /// What the message says that the action shows and that is answered with OK; empty where it shows none.

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 class Grid : public testing::Test {
@@ -23,9 +25,9 @@ protected:
             table.post();
         }
         table.first();
-        grid.setColumns({{.name = u"a"_qs, .field = u"nama"_qs, .caption = u"Nama"_qs},
-                         {.name = u"b"_qs, .field = u"nilai"_qs, .caption = u"Nilai"_qs, .editable = true},
-                         {.name = u"c"_qs, .field = u"nilai"_qs, .caption = u"Tersembunyi"_qs, .hidden = true}});
+        grid.setColumns({{.name = u"a"_s, .field = u"nama"_s, .caption = u"Nama"_s},
+                         {.name = u"b"_s, .field = u"nilai"_s, .caption = u"Nilai"_s, .editable = true},
+                         {.name = u"c"_s, .field = u"nilai"_s, .caption = u"Tersembunyi"_s, .hidden = true}});
         grid.setDataSet(&table);
         grid.show();
     }
@@ -40,15 +42,15 @@ protected:
         QCoreApplication::processEvents();
     }
 
-    data::MemTable table{{{.name = u"nama"_qs}, {.name = u"nilai"_qs, .type = data::FieldType::Real}}};
+    data::MemTable table{{{.name = u"nama"_s}, {.name = u"nilai"_s, .type = data::FieldType::Real}}};
     DataGrid grid;
 };
 
 TEST_F(Grid, TypedNumberGoesIntoTheRecordWithItsComma) {
     grid.setCurrentIndex(grid.model()->index(1, 1));
-    press(Qt::Key_2, u"2"_qs);
-    press(Qt::Key_Comma, u","_qs);
-    press(Qt::Key_5, u"5"_qs);
+    press(Qt::Key_2, u"2"_s);
+    press(Qt::Key_Comma, u","_s);
+    press(Qt::Key_5, u"5"_s);
     press(Qt::Key_Return);
     table.post();
     EXPECT_EQ(table.real(u"nilai"), 2.5);
@@ -56,17 +58,17 @@ TEST_F(Grid, TypedNumberGoesIntoTheRecordWithItsComma) {
 }
 
 TEST_F(Grid, TextThatIsNoNumberLeavesTheValue) {
-    EXPECT_FALSE(grid.model()->setData(grid.model()->index(0, 1), u"dua"_qs));
-    EXPECT_FALSE(grid.model()->setData(grid.model()->index(0, 0), u"read-only"_qs));
-    EXPECT_TRUE(grid.model()->setData(grid.model()->index(0, 1), u" 7 "_qs));
+    EXPECT_FALSE(grid.model()->setData(grid.model()->index(0, 1), u"dua"_s));
+    EXPECT_FALSE(grid.model()->setData(grid.model()->index(0, 0), u"read-only"_s));
+    EXPECT_TRUE(grid.model()->setData(grid.model()->index(0, 1), u" 7 "_s));
     table.post();
     EXPECT_EQ(table.real(u"nilai"), 7);
-    EXPECT_EQ(table.text(u"nama"), u"satu"_qs);
+    EXPECT_EQ(table.text(u"nama"), u"satu"_s);
 }
 
 TEST_F(Grid, OpenCellIsTakenBeforeTheRecordIsPosted) {
     grid.setCurrentIndex(grid.model()->index(0, 1));
-    press(Qt::Key_9, u"9"_qs);
+    press(Qt::Key_9, u"9"_s);
     table.settle();
     EXPECT_EQ(table.real(u"nilai"), 9);
 }
@@ -74,21 +76,21 @@ TEST_F(Grid, OpenCellIsTakenBeforeTheRecordIsPosted) {
 TEST_F(Grid, ColumnsFitTheWidestOfCaptionAndTexts) {
     FitGridColumns(grid);
     const QFontMetrics metrics = grid.fontMetrics();
-    EXPECT_EQ(grid.columnWidth(0), metrics.horizontalAdvance(u"sebuah teks yang panjang"_qs) + 10);
+    EXPECT_EQ(grid.columnWidth(0), metrics.horizontalAdvance(u"sebuah teks yang panjang"_s) + 10);
     EXPECT_EQ(grid.columnWidth(1),
-              std::max(metrics.horizontalAdvance(u"Nilai"_qs) + 27, metrics.horizontalAdvance(u"1250000,25"_qs) + 10));
+              std::max(metrics.horizontalAdvance(u"Nilai"_s) + 27, metrics.horizontalAdvance(u"1250000,25"_s) + 10));
     EXPECT_TRUE(grid.isEnabled());
     table.close();
     table.open();
     FitGridColumns(grid);
     EXPECT_FALSE(grid.isEnabled());
-    EXPECT_EQ(grid.columnWidth(0), metrics.horizontalAdvance(u"Nama"_qs) + 27);
+    EXPECT_EQ(grid.columnWidth(0), metrics.horizontalAdvance(u"Nama"_s) + 27);
 }
 
 TEST_F(Grid, StaysWhereItWasScrolledToThroughAWalkThatComesBack) {
     for (int i = 0; i < 200; ++i) {
         table.append();
-        table.setValue(u"nama", u"teks"_qs);
+        table.setValue(u"nama", u"teks"_s);
         table.post();
     }
     table.goToRow(100);
@@ -110,7 +112,7 @@ TEST_F(Grid, StaysWhereItWasScrolledToThroughAWalkThatComesBack) {
 
 TEST_F(Grid, CellsKeepTheirColourOnTheCurrentRow) {
     grid.setCellColour(
-        [](const CellInView& cell) { return cell.column.objectName() == u"b"_qs ? QColor(Qt::yellow) : QColor(); });
+        [](const CellInView& cell) { return cell.column.objectName() == u"b"_s ? QColor(Qt::yellow) : QColor(); });
     grid.setCurrentIndex(grid.model()->index(0, 0));
     const QImage picture = grid.viewport()->grab().toImage();
     const auto colourAt = [&](int column) {
@@ -124,9 +126,9 @@ TEST(Bands, CaptionStandsOverThePartThatCanBeSeen) {
     QWidget window;
     DataGrid grid(&window);
     std::vector<ColumnPlan> columns;
-    for (const auto& name : {u"a"_qs, u"b"_qs, u"c"_qs, u"d"_qs, u"e"_qs})
-        columns.push_back({.name = name, .field = name, .caption = {}, .band = u"lebar"_qs});
-    grid.setColumns(columns, {{.name = u"lebar"_qs, .caption = u"MMMM"_qs}});
+    for (const auto& name : {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s})
+        columns.push_back({.name = name, .field = name, .caption = {}, .band = u"lebar"_s});
+    grid.setColumns(columns, {{.name = u"lebar"_s, .caption = u"MMMM"_s}});
     // Away from the corner of the window, where wrong clipping would not show.
     grid.setGeometry(50, 150, 200, 100);
     for (int column = 0; column < int(columns.size()); ++column)
@@ -150,7 +152,7 @@ TEST(Bands, CaptionStandsOverThePartThatCanBeSeen) {
 } // namespace
 
 TEST(GridColumn, FactorsLineUpAtTheComma) {
-    const GridColumn factor({u"f"_qs, u"f"_qs, u"F"_qs, Show::Factor}, nullptr);
+    const GridColumn factor({u"f"_s, u"f"_s, u"F"_s, Show::Factor}, nullptr);
     const auto shown = [&](double value) {
         return factor.linedUp(factor.displayText(value)).replace(QChar(0x2007), u'_').replace(QChar(0x2008), u'.');
     };

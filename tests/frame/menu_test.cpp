@@ -1,7 +1,7 @@
 // The frame itself: whom a session sees, and the search for ticked employees.
-#include "frame/base/filter_block.h"
-#include "frame/window/emp_check_list.h"
-#include "frame/window/fr_menu.h"
+#include "base/filter_block.h"
+#include "frame/emp_check_list.h"
+#include "frame/fr_menu.h"
 #include "tests/frame/fixture.h"
 #include "toolkit/ui/data_grid.h"
 #include "toolkit/ui/lookup_box.h"
@@ -11,6 +11,8 @@
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,7 +34,7 @@ struct Started {
     }
 
     [[nodiscard]] int rowsAfterSearch() {
-        Q_EMIT child<frame::FilterBlock>(menu, u"filter").searchWanted();
+        Q_EMIT child<base::FilterBlock>(menu, u"filter").searchWanted();
         return child<DataGrid>(menu, u"dbg_rekap").rows().rowCount();
     }
 
@@ -43,7 +45,7 @@ struct Started {
 
 TEST(SessionBranch, StandsBehindTheFirstColonOfThePerUserValue) {
     SmallCompany company;
-    company.database.run(QStringLiteral("update emp set cab_id_auto=9 where emp_id_auto=2"));
+    company.database.run(u"update emp set cab_id_auto=9 where emp_id_auto=2"_s);
     struct Case {
         const char* value;
         bool limited;
@@ -68,21 +70,21 @@ TEST(SessionBranch, StandsBehindTheFirstColonOfThePerUserValue) {
         EXPECT_NE(lookup_cab.isEnabled(), one.limited) << one.value;
         EXPECT_EQ(started.rowsAfterSearch(), one.employees) << one.value;
     }
-    company.database.runApp(QStringLiteral("drop table global_setting"));
-    Started broken(company, QStringLiteral("3"));
+    company.database.runApp(u"drop table global_setting"_s);
+    Started broken(company, u"3"_s);
     EXPECT_NE(broken.fault.text, QString());
     EXPECT_EQ(broken.rowsAfterSearch(), 3) << "a later step failed";
 }
 
 TEST(CriteriaSearch, FindsUpToTwoHundredTickedEmployees) {
     SmallCompany company;
-    company.database.run(QStringLiteral("delete from emp where emp_id_auto<>-1;\n"
-                                        "insert into emp(emp_id_auto, pin, dept_id_auto, emp_status) "
-                                        "select seq, seq, 1, 0 from seq_1_to_210"));
+    company.database.run(u"delete from emp where emp_id_auto<>-1;\n"
+                         "insert into emp(emp_id_auto, pin, dept_id_auto, emp_status) "
+                         "select seq, seq, 1, 0 from seq_1_to_210"_s);
     Started started(company, {});
-    auto& filter = child<frame::FilterBlock>(started.menu, u"filter");
-    const int criteria = filter.addItem(QStringLiteral("Kriteria"), nullptr);
-    filter.select(frame::FilterBlock::Pin);
+    auto& filter = child<base::FilterBlock>(started.menu, u"filter");
+    const int criteria = filter.addItem(u"Kriteria"_s, nullptr);
+    filter.select(base::FilterBlock::Pin);
     Q_EMIT filter.valueChosen();
     filter.select(criteria);
     const auto& clb_emp = child<QListWidget>(started.menu, u"clb_emp");
@@ -92,8 +94,8 @@ TEST(CriteriaSearch, FindsUpToTwoHundredTickedEmployees) {
     EXPECT_EQ(started.rowsAfterSearch(), 200);
     clb_emp.item(200)->setCheckState(Qt::Checked);
     const Message told = messageDuring([&] { EXPECT_EQ(started.rowsAfterSearch(), 0); });
-    EXPECT_EQ(told.id, QStringLiteral("message_id[51]"));
-    EXPECT_EQ(told.text, QStringLiteral("Data kriteria maksimal berisi 200 karyawan."));
+    EXPECT_EQ(told.id, u"message_id[51]"_s);
+    EXPECT_EQ(told.text, u"Data kriteria maksimal berisi 200 karyawan."_s);
 }
 
 } // namespace

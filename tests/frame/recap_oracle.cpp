@@ -2,6 +2,8 @@
 
 #include <QMap>
 
+using namespace Qt::StringLiterals;
+
 namespace oracle {
 
 namespace {
@@ -15,8 +17,8 @@ struct Figure {
 };
 
 QString select(const char* value, const char* table, const char* conditions) {
-    return QStringLiteral("select emp_id_auto, %1 from %2 where %3 group by emp_id_auto")
-        .arg(QLatin1String(value), QLatin1String(table), QLatin1String(conditions));
+    return u"select emp_id_auto, %1 from %2 where %3 group by emp_id_auto"_s.arg(
+        QLatin1String(value), QLatin1String(table), QLatin1String(conditions));
 }
 
 QString sum(const QByteArray& value, const char* table, const char* conditions) {
@@ -111,23 +113,23 @@ std::vector<Figure> allFigures() {
 
 QStringList recapOf(TestDatabase& database, const Period& period) {
     QMap<QString, QString> settings;
-    for (const QString& row : database.rows(QStringLiteral("select sum_id, sum_as from sum_report")))
+    for (const QString& row : database.rows(u"select sum_id, sum_as from sum_report"_s))
         settings.insert(row.section(u'\t', 0, 0), row.section(u'\t', 1));
-    QStringList lines = database.rows(
-        QStringLiteral("select emp_id_auto from emp where emp_id_auto<>-1 and emp_status=0 order by emp_id_auto"));
+    QStringList lines =
+        database.rows(u"select emp_id_auto from emp where emp_id_auto<>-1 and emp_status=0 order by emp_id_auto"_s);
     for (const Figure& figure : allFigures()) {
         const bool inDays =
             figure.sum_id == 0 || settings.value(QString::number(figure.sum_id)) == QString::number(figure.sum_as);
         QMap<QString, double> values;
         for (QString statement : inDays ? figure.days : figure.amounts) {
-            statement.replace(QStringLiteral(":from"), period.from.toString(QStringLiteral("''yyyy-MM-dd''")))
-                .replace(QStringLiteral(":to"), period.to.toString(QStringLiteral("''yyyy-MM-dd''")));
+            statement.replace(u":from"_s, period.from.toString(u"''yyyy-MM-dd''"_s))
+                .replace(u":to"_s, period.to.toString(u"''yyyy-MM-dd''"_s));
             for (const QString& row : database.rows(statement))
                 values[row.section(u'\t', 0, 0)] += row.section(u'\t', 1).toDouble();
         }
         for (QString& line : lines)
-            line += QStringLiteral(" %1=%2").arg(QLatin1String(figure.column),
-                                                 QString::number(values.value(line.section(u' ', 0, 0)), 'f', 2));
+            line += u" %1=%2"_s.arg(QLatin1String(figure.column),
+                                    QString::number(values.value(line.section(u' ', 0, 0)), 'f', 2));
     }
     return lines;
 }

@@ -1,6 +1,6 @@
-#include "frame/window/recap.h"
-#include "frame/window/recap_colours.h"
-#include "run/figures.h"
+#include "frame/recap.h"
+#include "frame/recap_colours.h"
+#include "run/reading/figures.h"
 #include "tests/frame/fixture.h"
 #include "tests/frame/recap_oracle.h"
 
@@ -8,40 +8,42 @@
 
 #include <random>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString atWork = QStringLiteral("where emp_id_auto<>-1 and emp_status=0 ");
+const QString atWork = u"where emp_id_auto<>-1 and emp_status=0 "_s;
 const oracle::Period october{QDate(2026, 10, 1), QDate(2026, 10, 31)};
 
 const QStringList& figureColumns() {
-    static const QStringList columns{u"late"_qs,
-                                     u"early"_qs,
-                                     u"istirahat_lebih"_qs,
-                                     u"kehadiran"_qs,
-                                     u"hadir"_qs,
-                                     u"hadir_normal"_qs,
-                                     u"hadir_libur"_qs,
-                                     u"hadir_libur_umum"_qs,
-                                     u"hadir_libur_rutin"_qs,
-                                     u"hadir_izin"_qs,
-                                     u"tidak_hadir"_qs,
-                                     u"izin"_qs,
-                                     u"cuti"_qs,
-                                     u"sakit"_qs,
-                                     u"libur"_qs,
-                                     u"cadangan1"_qs,
-                                     u"cadangan2"_qs,
-                                     u"cadangan3"_qs,
-                                     u"lembur"_qs,
-                                     u"lembur_normal"_qs,
-                                     u"lembur_libur"_qs,
-                                     u"lembur_libur_umum"_qs,
-                                     u"lembur_libur_rutin"_qs,
-                                     u"lembur_jam"_qs,
-                                     u"lembur_shift"_qs,
-                                     u"aktiv"_qs,
-                                     u"aktiv2"_qs,
-                                     u"aktiv3"_qs};
+    static const QStringList columns{u"late"_s,
+                                     u"early"_s,
+                                     u"istirahat_lebih"_s,
+                                     u"kehadiran"_s,
+                                     u"hadir"_s,
+                                     u"hadir_normal"_s,
+                                     u"hadir_libur"_s,
+                                     u"hadir_libur_umum"_s,
+                                     u"hadir_libur_rutin"_s,
+                                     u"hadir_izin"_s,
+                                     u"tidak_hadir"_s,
+                                     u"izin"_s,
+                                     u"cuti"_s,
+                                     u"sakit"_s,
+                                     u"libur"_s,
+                                     u"cadangan1"_s,
+                                     u"cadangan2"_s,
+                                     u"cadangan3"_s,
+                                     u"lembur"_s,
+                                     u"lembur_normal"_s,
+                                     u"lembur_libur"_s,
+                                     u"lembur_libur_umum"_s,
+                                     u"lembur_libur_rutin"_s,
+                                     u"lembur_jam"_s,
+                                     u"lembur_shift"_s,
+                                     u"aktiv"_s,
+                                     u"aktiv2"_s,
+                                     u"aktiv3"_s};
     return columns;
 }
 
@@ -53,36 +55,32 @@ public:
 
     void insertInto(TestDatabase& database) {
         for (int i = 0; i < 300; ++i) {
-            database.run(QStringLiteral("insert into shift_result values(%1, '%2', %3, %4, %5, %6, %7, %8, %9, ")
-                             .arg(below(7))
+            database.run(u"insert into shift_result values(%1, '%2', %3, %4, %5, %6, %7, %8, %9, "_s.arg(below(7))
                              .arg(day())
                              .arg(below(5) == 0 ? 1 : 0)
                              .arg(amount(), amount(), amount(), amount(), flag(), flag()) +
-                         QStringList{amount(), amount(), amount(), amount()}.join(u", "_qs) + u')');
-            database.run(QStringLiteral("insert into date_temp values(%1, '%2', %3, 8, %4)")
-                             .arg(below(7))
-                             .arg(day())
-                             .arg(below(11))
-                             .arg(flag()));
-            database.run(QStringLiteral("insert into ex_absent values(%1, '%2', %3, %4)")
-                             .arg(below(7))
+                         QStringList{amount(), amount(), amount(), amount()}.join(u", "_s) + u')');
+            database.run(
+                u"insert into date_temp values(%1, '%2', %3, 8, %4)"_s.arg(below(7)).arg(day()).arg(below(11)).arg(
+                    flag()));
+            database.run(u"insert into ex_absent values(%1, '%2', %3, %4)"_s.arg(below(7))
                              .arg(day())
                              .arg(9 + below(5))
                              .arg(below(900) / 100.0));
         }
         for (int i = 0; i < 6; ++i)
-            database.run(QStringLiteral("insert into holiday values('%1')").arg(day()));
-        database.run(QStringLiteral("insert into holiday values('2026-10-09'), ('2026-10-09')"));
+            database.run(u"insert into holiday values('%1')"_s.arg(day()));
+        database.run(u"insert into holiday values('2026-10-09'), ('2026-10-09')"_s);
     }
 
 private:
     int below(int limit) { return int(m_random() % unsigned(limit)); }
     QString day() {
-        const QString time = below(3) == 0 ? QStringLiteral(" 23:59:59") : QString();
+        const QString time = below(3) == 0 ? u" 23:59:59"_s : QString();
         return QDate(2026, 9, 28).addDays(below(38)).toString(Qt::ISODate) + time;
     }
-    QString flag() { return below(2) ? QStringLiteral("-1") : QStringLiteral("0"); }
-    QString amount() { return below(6) == 0 ? QStringLiteral("null") : QString::number((below(900) - 200) / 100.0); }
+    QString flag() { return below(2) ? u"-1"_s : u"0"_s; }
+    QString amount() { return below(6) == 0 ? u"null"_s : QString::number((below(900) - 200) / 100.0); }
 
     std::mt19937 m_random;
 };
@@ -90,21 +88,21 @@ private:
 class Recap : public testing::Test {
 protected:
     std::string recapOf(const oracle::Period& period) {
-        const auto rows = recap::open(company.services.session.ADOConn, {atWork, period.from, period.to});
-        rows->setOrder({QStringLiteral("emp_id_auto")});
+        const auto rows = frame::recap::open(company.services.session.ADOConn, {atWork, period.from, period.to});
+        rows->setOrder({u"emp_id_auto"_s});
         QStringList lines;
         for (rows->first(); !rows->isEof(); rows->next()) {
             QString line = rows->text(u"emp_id_auto");
             for (const QString& column : figureColumns())
-                line += QStringLiteral(" %1=%2").arg(column, QString::number(rows->real(column), 'f', 2));
+                line += u" %1=%2"_s.arg(column, QString::number(rows->real(column), 'f', 2));
             lines << line;
         }
         return lines.join(u'\n').toStdString();
     }
 
     void setSwitches(const char* rows) {
-        company.database.run(QStringLiteral("delete from sum_report"));
-        company.database.run(QStringLiteral("insert into sum_report values ") + QString::fromUtf8(rows));
+        company.database.run(u"delete from sum_report"_s);
+        company.database.run(u"insert into sum_report values "_s + QString::fromUtf8(rows));
     }
 
     SmallCompany company;
@@ -129,21 +127,21 @@ TEST_F(Recap, EqualsEachFigureReadAloneInAmountsAndInDays) {
 TEST_F(Recap, EqualsTheCalculatorWhereAFigureHasOneSource) {
     const unsigned seed = std::random_device()();
     RandomAttendance(seed).insertInto(company.database);
-    company.database.run(QStringLiteral("update shift_result set duration=1 where ifnull(duration,0)<=0"));
-    company.database.run(QStringLiteral("delete from shift_result where late<0 or early<0 or total_ot<0"));
-    const auto rows = recap::open(company.services.session.ADOConn, {atWork, october.from, october.to});
+    company.database.run(u"update shift_result set duration=1 where ifnull(duration,0)<=0"_s);
+    company.database.run(u"delete from shift_result where late<0 or early<0 or total_ot<0"_s);
+    const auto rows = frame::recap::open(company.services.session.ADOConn, {atWork, october.from, october.to});
     int compared = 0;
     for (rows->first(); !rows->isEof(); rows->next())
         for (const run::Figure& figure : run::figures()) {
-            const QString column = figure.id_kode_report == 3    ? u"istirahat_lebih"_qs
-                                   : figure.id_kode_report == 13 ? u"lembur"_qs
+            const QString column = figure.id_kode_report == 3    ? u"istirahat_lebih"_s
+                                   : figure.id_kode_report == 13 ? u"lembur"_s
                                                                  : QString(figure.column);
             if (figure.parts.size() > 1 || !rows->hasField(column))
                 continue;
             data::SqlQuery calculator(company.services.session.ADOConn, run::statementForEmployee(figure));
-            calculator.setParameter(u"emp_id_auto"_qs, rows->integer(u"emp_id_auto"));
-            calculator.setParameter(u"tanggal_awal"_qs, october.from);
-            calculator.setParameter(u"tanggal_akhir"_qs, october.to.addDays(1));
+            calculator.setParameter(u"emp_id_auto"_s, rows->integer(u"emp_id_auto"));
+            calculator.setParameter(u"tanggal_awal"_s, october.from);
+            calculator.setParameter(u"tanggal_akhir"_s, october.to.addDays(1));
             calculator.open();
             EXPECT_DOUBLE_EQ(rows->real(column), calculator.real(QString(figure.column)))
                 << "seed " << seed << ' ' << qPrintable(column);
@@ -154,8 +152,8 @@ TEST_F(Recap, EqualsTheCalculatorWhereAFigureHasOneSource) {
 
 TEST_F(Recap, ConditionNarrowsTheEmployees) {
     const auto pinsFor = [this](const char* condition) {
-        const auto rows = recap::open(company.services.session.ADOConn,
-                                      {atWork + QString::fromUtf8(condition), october.from, october.to});
+        const auto rows = frame::recap::open(company.services.session.ADOConn,
+                                             {atWork + QString::fromUtf8(condition), october.from, october.to});
         EXPECT_TRUE(rows->sql().startsWith(u"select distinct k.*")) << "older servers know no WITH";
         QStringList pins;
         for (; !rows->isEof(); rows->next())
@@ -169,23 +167,23 @@ TEST_F(Recap, ConditionNarrowsTheEmployees) {
     EXPECT_EQ(pinsFor(" and emp_id_auto=-1 "), "");
 }
 
-std::string colourOf(const recap::ColourSettings& settings, const char16_t* column, const QVariant& value) {
-    const GridColumn object({u"dbg_rekap"_qs + QString::fromUtf16(column), {}, {}}, nullptr);
-    const QColor colour = recap::cellColour(settings, {object, value});
+std::string colourOf(const frame::recap::ColourSettings& settings, const char16_t* column, const QVariant& value) {
+    const GridColumn object({u"dbg_rekap"_s + QString::fromUtf16(column), {}, {}}, nullptr);
+    const QColor colour = frame::recap::cellColour(settings, {object, value});
     return colour.isValid() ? colour.name().toStdString() : "";
 }
 
 TEST_F(Recap, ColoursFollowTheirFlagsAndTheRoundedValue) {
-    recap::ColourSettings on;
+    frame::recap::ColourSettings on;
     on.cl_tampil_grid_set = on.cl_terlambat_set = on.cl_cepat_set = true;
     on.cl_terlambat = 0x010000;
     on.cl_cepat = 0x020000;
     on.cl_absen = 0x030000;
     on.cl_absen_izin = 0x040000;
     on.cl_libur = 0x050000;
-    recap::ColourSettings lateOnly = on;
+    frame::recap::ColourSettings lateOnly = on;
     lateOnly.cl_cepat_set = false;
-    recap::ColourSettings off = on;
+    frame::recap::ColourSettings off = on;
     off.cl_tampil_grid_set = false;
     struct {
         const char16_t* column;
@@ -214,10 +212,10 @@ TEST_F(Recap, ColoursFollowTheirFlagsAndTheRoundedValue) {
 }
 
 TEST_F(Recap, SettingThatCannotBeReadStaysAtItsFirstValue) {
-    company.database.runApp(QStringLiteral("insert into global_setting values('cl_terlambat_set', 'ya'),"
-                                           "('cl_cepat_set', 'True'), ('cl_tampil_grid_set', '-1'),"
-                                           "('cl_terlambat', '#123456'), ('cl_cepat', 'clRed'), ('cl_libur', '$FF')"));
-    const recap::ColourSettings read = recap::readColourSettings(company.services.session);
+    company.database.runApp(u"insert into global_setting values('cl_terlambat_set', 'ya'),"
+                            "('cl_cepat_set', 'True'), ('cl_tampil_grid_set', '-1'),"
+                            "('cl_terlambat', '#123456'), ('cl_cepat', 'clRed'), ('cl_libur', '$FF')"_s);
+    const frame::recap::ColourSettings read = frame::recap::readColourSettings(company.services.session);
     EXPECT_FALSE(read.cl_terlambat_set);
     EXPECT_TRUE(read.cl_cepat_set && read.cl_tampil_grid_set);
     EXPECT_EQ(read.cl_terlambat, QColor(Qt::black));

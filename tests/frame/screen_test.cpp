@@ -11,12 +11,14 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(Screens, ThatAreClosedBeforeTheyAreActiveLeaveNothingBehind) {
     SmallCompany company;
     {
         Tfrm_isian_hitung_gaji form(company.services, {}, nullptr);
         form.show();
-        form.findChild<QLineEdit*>(u"dbe_nama"_qs)->setFocus();
+        form.findChild<QLineEdit*>(u"dbe_nama"_s)->setFocus();
         QApplication::setActiveWindow(&form);
     }
     const QPointer<Workspace> workspace = new Tfrm_hitung_gaji(company.services, nullptr);
@@ -29,14 +31,14 @@ TEST(Screens, ThatAreClosedBeforeTheyAreActiveLeaveNothingBehind) {
 
 TEST(DataLabel, ShowsMarkupAsTextAndALongNameWidensNothing) {
     DataLabel label;
-    label.setText(u"<img src=nothing><b>&Cari</b>"_qs + QString(1000, u'W'));
+    label.setText(u"<img src=nothing><b>&Cari</b>"_s + QString(1000, u'W'));
     EXPECT_LT(label.minimumSizeHint().width(), 60);
     EXPECT_GT(label.sizeHint().width(), 5000);
     label.resize(300, 30);
     const auto shown = [&label] { return label.grab().toImage(); };
     const QImage first = shown();
-    label.setText(u"<i src=nothing><b>&Cari</b>"_qs + QString(1000, u'W'));
+    label.setText(u"<i src=nothing><b>&Cari</b>"_s + QString(1000, u'W'));
     EXPECT_NE(shown(), first) << "a tag can be read";
-    EXPECT_EQ(plainToolTip(u"<b>&x</b>"_qs + QString(41, u'W')).toStdString(),
+    EXPECT_EQ(plainToolTip(u"<b>&x</b>"_s + QString(41, u'W')).toStdString(),
               "<qt>&lt;b&gt;&amp;x&lt;/b&gt;" + std::string(31, 'W') + "\u200b" + std::string(10, 'W') + "</qt>");
 }

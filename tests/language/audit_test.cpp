@@ -1,23 +1,25 @@
-#include "frame/base/services.h"
+#include "base/services.h"
 #include "tests/support/test_database.h"
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 TEST(WriteUserLog, StoresHostileTextsAsTheyAreAndCutsLongNotes) {
     TestDatabase database;
-    frame::Session session(frame::systemClock());
+    base::Session session(base::systemClock());
     session.ADOConn.configure(database.mainSettings());
-    frame::AuditLog audit(session);
+    base::AuditLog audit(session);
     const QDateTime moment(QDate(2026, 11, 22), QTime(8, 15, 59));
-    audit.WriteUserLog(u"o'neil\\"_qs, u"Isian - Insert - [A'B\\ : \"x\"]"_qs, frame::payrollModule, moment);
+    audit.WriteUserLog(u"o'neil\\"_s, u"Isian - Insert - [A'B\\ : \"x\"]"_s, base::payrollModule, moment);
     EXPECT_EQ(
         audit.statement(),
         u"INSERT INTO user_log (login_id, log_date, module, log_note) VALUES ('o''neil\\\\', '2026-11-22 08:15', 7, "
-        "'Isian - Insert - [A''B\\\\ : \"x\"]') "_qs);
-    audit.WriteUserLog(u"budi"_qs, QString(400, u'n'), 7, moment);
-    EXPECT_EQ(database.rows(u"select login_id, log_date, module, log_note from user_log order by login_id desc"_qs),
-              (QStringList{u"o'neil\\\t2026-11-22 08:15:00\t7\tIsian - Insert - [A'B\\ : \"x\"]"_qs,
-                           u"budi\t2026-11-22 08:15:00\t7\t"_qs + QString(300, u'n')}));
-    session.ADOConn.execute(u"drop table user_log"_qs);
-    EXPECT_THROW(audit.WriteUserLog(u"budi"_qs, u"x"_qs, 7, moment), db::Fault);
+        "'Isian - Insert - [A''B\\\\ : \"x\"]') "_s);
+    audit.WriteUserLog(u"budi"_s, QString(400, u'n'), 7, moment);
+    EXPECT_EQ(database.rows(u"select login_id, log_date, module, log_note from user_log order by login_id desc"_s),
+              (QStringList{u"o'neil\\\t2026-11-22 08:15:00\t7\tIsian - Insert - [A'B\\ : \"x\"]"_s,
+                           u"budi\t2026-11-22 08:15:00\t7\t"_s + QString(300, u'n')}));
+    session.ADOConn.execute(u"drop table user_log"_s);
+    EXPECT_THROW(audit.WriteUserLog(u"budi"_s, u"x"_s, 7, moment), db::Fault);
 }

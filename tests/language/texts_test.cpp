@@ -1,10 +1,10 @@
 // Every text that a person can see has its row in both languages.
 
-#include "frame/base/fr_browse_emp.h"
-#include "frame/base/fr_userlog.h"
-#include "frame/base/notices.h"
-#include "frame/window/fr_menu.h"
-#include "frame/window/fr_warning.h"
+#include "base/fr_browse_emp.h"
+#include "base/notices.h"
+#include "frame/fr_menu.h"
+#include "frame/fr_userlog.h"
+#include "frame/fr_warning.h"
 #include "register/fr_hitung_gaji.h"
 #include "register/reports/captions.h"
 #include "run/form/left_out_list.h"
@@ -19,6 +19,8 @@
 #include <QRegularExpression>
 #include <QTabWidget>
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -37,12 +39,12 @@ public:
         m_form = form.objectName();
         add(m_form, -1, form.windowTitle());
         for (const QObject* child : form.findChildren<QObject*>())
-            if (!child->objectName().startsWith(QLatin1String("qt_")))
+            if (!child->objectName().startsWith("qt_"_L1))
                 component(*child);
     }
     void add(const QString& name, int no_index, const QString& text) {
         if (hasLetter(text))
-            m_texts.emplace_back(u"%1\t%2\t%3"_qs.arg(m_form, name).arg(no_index).toLower(), text);
+            m_texts.emplace_back(u"%1\t%2\t%3"_s.arg(m_form, name).arg(no_index).toLower(), text);
     }
 
 private:
@@ -86,17 +88,17 @@ private:
 Texts textsOfProgram() {
     Texts texts;
     Collector collect(texts);
-    frame::Services services(frame::systemClock(), nullptr);
+    base::Services services(base::systemClock(), nullptr);
     // Nothing listens there: the screens keep the texts that they were designed with.
     services.session.ADOConn_lang.configure(
-        {.host = QStringLiteral("127.0.0.1"), .port = 1, .user = {}, .password = {}, .database = {}});
-    collect.form(Tfrm_menu({}, frame::systemClock(), frame::systemUserSetting()));
+        {.host = u"127.0.0.1"_s, .port = 1, .user = {}, .password = {}, .database = {}});
+    collect.form(Tfrm_menu({}, base::systemClock(), base::systemUserSetting()));
     collect.form(Tfrm_warning(services.language));
-    collect.form(Tfrm_userlog(services, {}, frame::payrollModule, nullptr));
+    collect.form(Tfrm_userlog(services, {}, base::payrollModule, nullptr));
     collect.form(Tfrm_browse_emp(services, {}, {}, nullptr));
     collect.form(Tfrm_isian_hitung_gaji(services, {}, nullptr));
     collect.form(Tfrm_preview(report::Document{}, nullptr));
-    collect.form(Tfrm_daftar(services, frame::Notices::emptyList(), nullptr));
+    collect.form(Tfrm_daftar(services, base::Notices::emptyList(), nullptr));
     collect.form(Tfrm_daftar(services, leftOutList({}), nullptr));
     collect.form(Tfrm_hitung_gaji(services, nullptr));
     const report::Captions captions = payroll::defaultCaptions();
@@ -108,17 +110,17 @@ Texts textsOfProgram() {
 /// What the guards of the program name as given up: the literals stand in the sources.
 Texts droppedThings() {
     Texts things;
-    const QRegularExpression guard(uR"re(fault::(?:dropFault|reportDroppedFault)\((?:\s*"([^"]*)")?)re"_qs);
-    for (QDirIterator file(QStringLiteral(ORVANE_SOURCES), {u"*.cpp"_qs, u"*.h"_qs}, QDir::Files,
+    const QRegularExpression guard(uR"re(fault::(?:dropFault|reportDroppedFault)\((?:\s*"([^"]*)")?)re"_s);
+    for (QDirIterator file(QStringLiteral(ORVANE_SOURCES), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
                            QDirIterator::Subdirectories);
          file.hasNext();) {
         QFile source(file.next());
-        if (file.filePath().contains(QRegularExpression(u"/(build|tests)/"_qs)) || !source.open(QIODevice::ReadOnly))
+        if (file.filePath().contains(QRegularExpression(u"/(build|tests)/"_s)) || !source.open(QIODevice::ReadOnly))
             continue;
         const QString text = QString::fromUtf8(source.readAll());
         for (const QRegularExpressionMatch& found : guard.globalMatch(text)) {
             EXPECT_TRUE(found.hasCaptured(1)) << "not named by a literal: " << file.filePath().toStdString();
-            things.emplace_back(u"frm_pemberitahuan\t%1\t-1"_qs.arg(found.captured(1)).toLower(), found.captured(1));
+            things.emplace_back(u"frm_pemberitahuan\t%1\t-1"_s.arg(found.captured(1)).toLower(), found.captured(1));
         }
     }
     return things;
@@ -131,7 +133,7 @@ void expectRows(const Texts& texts, const QString& statement) {
     for (const QString& line : database.rowsApp(statement))
         rows.insert(line.section(u'\t', 0, 2).toLower(), line.split(u'\t').mid(3));
     for (const auto& [key, text] : texts) {
-        const QStringList row = rows.value(key, {u"no row"_qs, {}});
+        const QStringList row = rows.value(key, {u"no row"_s, {}});
         EXPECT_EQ(row[0].toStdString(), text.toStdString()) << key.toStdString();
         EXPECT_TRUE(hasLetter(row[1])) << "not translated: " << key.toStdString();
     }
@@ -142,21 +144,21 @@ void expectRows(const Texts& texts, const QString& statement) {
 TEST(LanguageTables, HoldEveryCaptionInBothLanguages) {
     const Texts texts = textsOfProgram();
     ASSERT_GT(texts.size(), 150u);
-    expectRows(texts, u"select com_form, com_name, no_index, indonesia, ifnull(english, '') from change_lang"_qs);
+    expectRows(texts, u"select com_form, com_name, no_index, indonesia, ifnull(english, '') from change_lang"_s);
 }
 
 TEST(LanguageTables, HoldEveryThingThatIsGivenUp) {
     const Texts things = droppedThings();
     ASSERT_GT(things.size(), 20u);
-    expectRows(things, u"select com_form, com_name, no_index, indonesia, ifnull(english, '') from change_lang"_qs);
+    expectRows(things, u"select com_form, com_name, no_index, indonesia, ifnull(english, '') from change_lang"_s);
 }
 
 TEST(LanguageTables, HoldEveryMessageInBothLanguages) {
     Texts texts;
-    for (const frame::MessageText* message : frame::MessageText::all())
-        texts.emplace_back((message->form() + u'\t' + message->id() + u"\t0"_qs).toLower(), message->text());
+    for (const base::MessageText* message : base::MessageText::all())
+        texts.emplace_back((message->form() + u'\t' + message->id() + u"\t0"_s).toLower(), message->text());
     ASSERT_GE(texts.size(), 8u);
-    expectRows(texts, u"select com_form, message_id, 0, indonesia, ifnull(english, '') from tvk_message"_qs);
+    expectRows(texts, u"select com_form, message_id, 0, indonesia, ifnull(english, '') from tvk_message"_s);
 }
 
 int main(int argc, char** argv) {

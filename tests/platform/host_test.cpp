@@ -10,6 +10,8 @@
 #include <memory>
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 using namespace platform;
 
 namespace {
@@ -18,8 +20,7 @@ namespace {
 /// this user no network of its own.
 std::string isolatedPing(const char* mode) {
     QProcess process;
-    process.start(QCoreApplication::applicationDirPath() + QStringLiteral("/isolated_ping"),
-                  {QString::fromLatin1(mode)});
+    process.start(QCoreApplication::applicationDirPath() + u"/isolated_ping"_s, {QString::fromLatin1(mode)});
     process.waitForFinished();
     constexpr int notPossible = 77;
     return process.exitCode() == notPossible ? "not possible" : process.readAllStandardOutput().trimmed().toStdString();
@@ -38,12 +39,11 @@ TEST(IsIpAddress, TakesFourGroupsUpTo255) {
 
 // But for these two, names that no resolver asks a server for.
 TEST(ResolveHost, GivesTheAddressOfANameTheNameOfAnAddressAndTheTextBackWhereNothingIsFound) {
-    EXPECT_EQ(ResolveHost(QStringLiteral("localhost")).toStdString(), "127.0.0.1");
-    const QString name = ResolveHost(QStringLiteral("127.0.0.1"));
+    EXPECT_EQ(ResolveHost(u"localhost"_s).toStdString(), "127.0.0.1");
+    const QString name = ResolveHost(u"127.0.0.1"_s);
     EXPECT_FALSE(IsIpAddress(name)) << name.toStdString();
     EXPECT_EQ(ResolveHost(name).toStdString(), "127.0.0.1");
-    for (const QString& text :
-         {QString(), QString(300, u'a'), QStringLiteral("a..b"), QStringLiteral("256.256.256.256")})
+    for (const QString& text : {QString(), QString(300, u'a'), u"a..b"_s, u"256.256.256.256"_s})
         EXPECT_EQ(ResolveHost(text), text) << text.toStdString();
 }
 
@@ -67,7 +67,7 @@ TEST(PingSocket, EndsAtOnceWhereNothingCanBeSent) {
     for (const char16_t* address : {u"", u"aaa", u"127.0.0.1.1", u"255.255.255.255"})
         EXPECT_FALSE(ping->PingHost(QString::fromUtf16(address)));
     EXPECT_LT(timer.elapsed(), 5000);
-    EXPECT_TRUE(ping->PingHost(QStringLiteral("127.9.8.7")));
+    EXPECT_TRUE(ping->PingHost(u"127.9.8.7"_s));
 }
 
 TEST(PingSocket, WorksOverEitherKindOfSocketOrTheInstalledPingAndGivesADeadAddressUpAtTheTimeOut) {

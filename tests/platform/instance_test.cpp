@@ -17,6 +17,8 @@
 #include <string>
 #include <vector>
 
+using namespace Qt::StringLiterals;
+
 using platform::InstanceGuard;
 
 namespace {
@@ -25,8 +27,8 @@ namespace {
 class Instances : public testing::Test {
 protected:
     Instances() {
-        QDir(m_root.path()).mkdir(QStringLiteral("a"));
-        QFile::copy(QCoreApplication::applicationDirPath() + QStringLiteral("/instance_program"), m_program);
+        QDir(m_root.path()).mkdir(u"a"_s);
+        QFile::copy(QCoreApplication::applicationDirPath() + u"/instance_program"_s, m_program);
         QFile::link(m_program, m_link);
     }
 
@@ -55,8 +57,8 @@ protected:
     }
 
     QTemporaryDir m_root;
-    const QString m_program = m_root.filePath(QStringLiteral("a/program"));
-    const QString m_link = m_root.filePath(QStringLiteral("link"));
+    const QString m_program = m_root.filePath(u"a/program"_s);
+    const QString m_link = m_root.filePath(u"link"_s);
 };
 
 /// The address of the one instance socket that this process holds.
@@ -147,11 +149,11 @@ TEST_F(Instances, AnotherUserRunsBesideAndNeitherKeepsFromStartingNorRaises) {
     const auto own = start(m_program);
     go(*own);
     EXPECT_EQ(line(*own), "first");
-    const QStringList asNobody{QStringLiteral("--reuid=nobody"), QStringLiteral("--clear-groups"), m_program};
-    const auto other = start(QStringLiteral("setpriv"), asNobody);
+    const QStringList asNobody{u"--reuid=nobody"_s, u"--clear-groups"_s, m_program};
+    const auto other = start(u"setpriv"_s, asNobody);
     go(*other);
     EXPECT_EQ(line(*other), "first");
-    const auto third = start(QStringLiteral("setpriv"), asNobody);
+    const auto third = start(u"setpriv"_s, asNobody);
     go(*third);
     EXPECT_EQ(line(*third), "second");
     kill(*own);

@@ -14,10 +14,12 @@
 #include <iostream>
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int exitNotPossible = 77;
-const QString address = QStringLiteral("127.0.0.1");
+const QString address = u"127.0.0.1"_s;
 
 bool writeFile(const char* path, const std::string& text) {
     std::ofstream file(path);

@@ -9,15 +9,17 @@
 
 #include <string>
 
+using namespace Qt::StringLiterals;
+
 using namespace platform;
 
 namespace {
 
-const QString adminUserId = QStringLiteral("Admin User ID");
+const QString adminUserId = u"Admin User ID"_s;
 
 void writeConf(const QString& folder, const QByteArray& content) {
     QDir().mkpath(folder);
-    QFile file(folder + QStringLiteral("/user.conf"));
+    QFile file(folder + u"/user.conf"_s);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
 }
 
@@ -54,8 +56,8 @@ TEST(ReadUserSetting, GivesTheValueExactlyOrAnEmptyText) {
 
 TEST(ReadUserSetting, IsRefusedByAFileThatIsThereAndCannotBeRead) {
     const QTemporaryDir folder;
-    const QString file = folder.filePath(QStringLiteral("user.conf"));
-    EXPECT_TRUE(QFile::link(QStringLiteral("/nowhere/at all"), file));
+    const QString file = folder.filePath(u"user.conf"_s);
+    EXPECT_TRUE(QFile::link(u"/nowhere/at all"_s, file));
     EXPECT_THROW((void)ReadUserSetting(adminUserId, folder.path()), std::runtime_error) << "a link that leads nowhere";
     EXPECT_TRUE(QFile::remove(file));
     for (const QByteArray& content : {QByteArray("Admin User ID : 3\n"), QByteArray("AdminUserID\n"),
@@ -73,11 +75,11 @@ TEST(ReadUserSetting, LooksIntoTheUsersConfigurationFolderAndLogsAFailureWhereAs
     qputenv("XDG_CONFIG_HOME", QFile::encodeName(home.path()));
     EXPECT_EQ(ReadUserSetting(adminUserId).toStdString(), "");
     EXPECT_EQ(std::exchange(loggedLines, 0), 0);
-    QLoggingCategory::setFilterRules(QStringLiteral("orvane.platform=true"));
+    QLoggingCategory::setFilterRules(u"orvane.platform=true"_s);
     EXPECT_EQ(ReadUserSetting(adminUserId).toStdString(), "");
     EXPECT_EQ(std::exchange(loggedLines, 0), 1);
     QLoggingCategory::setFilterRules(QString());
     qInstallMessageHandler(handler);
-    writeConf(home.filePath(QStringLiteral("orvane")), "Admin User ID=x:7\n");
+    writeConf(home.filePath(u"orvane"_s), "Admin User ID=x:7\n");
     EXPECT_EQ(ReadUserSetting(adminUserId).toStdString(), "x:7");
 }

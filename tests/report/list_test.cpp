@@ -1,4 +1,5 @@
 // The two lists, recap and detail, read as text.
+#include "base/paper/captions.h"
 #include "tests/report/paper.h"
 #include "tests/report/payroll_papers.h"
 
@@ -43,12 +44,13 @@ INSERT INTO change_lang (com_form, com_name, no_index, indonesia, english) VALUE
   ('frm_kredit_emp', 'ppl_nik', -1, 'x', 'y');
 )"_s);
     pay(1, 9, 1000);
-    captions = payroll::captionsOf(session, u"english"_s);
+    captions = base::paper::captionsOf(session, u"frm_hitung_gaji"_s, payroll::defaultCaptions(), u"english"_s);
     EXPECT_EQ(paper(*reports.RekapPenggajian(runs({1})), u"header"_s), R"(PAYROLL SUMMARY
 Nama Perusahaan |  :  | PT Contoh
 Tgl. Periode |  :  | 01/05/2026 |  s/d  | 31/05/2026
 PIN | NIK | Nama karyawan | Jabatan | Cabang | Jumlah Gaji)");
-    captions = payroll::captionsOf(session, u"no_such_language"_s);
+    captions =
+        base::paper::captionsOf(session, u"frm_hitung_gaji"_s, payroll::defaultCaptions(), u"no_such_language"_s);
     EXPECT_EQ(paper(*reports.RekapPenggajian(runs({1})), u"header"_s).substr(0, 24), "LAPORAN REKAP PENGGAJIAN");
 }
 

@@ -26,7 +26,7 @@ protected:
     [[nodiscard]] static payroll::Request runs(const QList<qint64>& ids);
 
     TestDatabase database;
-    frame::Session session{[] { return QDateTime({2026, 6, 5}, {14, 3, 9}); }};
+    base::Session session{[] { return QDateTime({2026, 6, 5}, {14, 3, 9}); }};
     report::Captions captions = payroll::defaultCaptions();
     payroll::PayrollReports reports{session, captions};
 };

@@ -26,6 +26,8 @@
 #include <memory>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr int patience = 120'000; // milliseconds
@@ -39,8 +41,8 @@ QByteArray readFile(const QString& path) {
 
 /// The lines of a script; those that "#:+" joins as one.
 QStringList stepsOf(const QString& script) {
-    QStringList steps = QString::fromUtf8(readFile(script)).split(QRegularExpression(QStringLiteral("\n(?!#:\\+)")));
-    return steps.replaceInStrings(QStringLiteral("\n#:+"), QStringLiteral("\n"));
+    QStringList steps = QString::fromUtf8(readFile(script)).split(QRegularExpression(u"\n(?!#:\\+)"_s));
+    return steps.replaceInStrings(u"\n#:+"_s, u"\n"_s);
 }
 
 /// The robot at work, and the transcript of all that is worth comparing.
@@ -52,12 +54,12 @@ public:
     [[nodiscard]] QByteArray transcript(const QString& robot) {
         openDatabase();
         m_robot.setWorkingDirectory(m_folder.path());
-        m_robot.start(robot, QStringList{QStringLiteral("--dir"), m_folder.path()} +
-                                 QProcess::splitCommand(directive(QStringLiteral("options"))));
+        m_robot.start(robot,
+                      QStringList{u"--dir"_s, m_folder.path()} + QProcess::splitCommand(directive(u"options"_s)));
         if (!m_robot.waitForStarted())
             throw std::runtime_error("the robot does not start");
         for (const QString& step : m_steps)
-            if (step.startsWith(QLatin1String("#:")))
+            if (step.startsWith("#:"_L1))
                 obey(step.mid(2).trimmed());
             else
                 m_robot.write(step.toUtf8() + '\n');
@@ -67,7 +69,7 @@ public:
 
 private:
     void openDatabase() {
-        const QStringList words = directive(QStringLiteral("company")).split(u' ');
+        const QStringList words = directive(u"company"_s).split(u' ');
         if (words.size() == 2) {
             company::Options options;
             options.employees = words[0].toInt();
@@ -82,7 +84,7 @@ private:
 
     /// What stands behind the word of a directive that holds for the whole case; empty where it is not there.
     [[nodiscard]] QString directive(const QString& word) const {
-        const QString start = u"#: "_qs + word + u' ';
+        const QString start = u"#: "_s + word + u' ';
         const QStringList found = m_steps.filter(QRegularExpression(u'^' + start));
         return found.isEmpty() ? QString() : found.first().mid(start.size()).trimmed();
     }
@@ -93,7 +95,7 @@ private:
         if (verb == u"options" || verb == u"company")
             return;
         waitForRobot();
-        if (verb.endsWith(u"-file"_qs))
+        if (verb.endsWith(u"-file"_s))
             obey(verb.chopped(5) + u' ' + QString::fromUtf8(readFile(m_folderOfScript + rest)));
         else if (verb == u"main")
             m_database->run(rest);
@@ -149,7 +151,7 @@ int compare(const QString& expectedPath, const QByteArray& transcript) {
         return 0;
     QProcess diff;
     diff.setProcessChannelMode(QProcess::ForwardedChannels);
-    diff.start(QStringLiteral("diff"), {QStringLiteral("-u"), expectedPath, QStringLiteral("-")});
+    diff.start(u"diff"_s, {u"-u"_s, expectedPath, u"-"_s});
     diff.write(transcript);
     diff.closeWriteChannel();
     diff.waitForFinished();
@@ -161,8 +163,8 @@ int runCase(const QStringList& arguments) {
         throw std::runtime_error("usage: robot_case ROBOT CASE.robot [--update]");
     const QString script = arguments[2];
     const QByteArray transcript = Case(script).transcript(QFileInfo(arguments[1]).absoluteFilePath());
-    const QString expected = script.left(script.size() - 5) + QStringLiteral("expected");
-    if (!arguments.contains(QStringLiteral("--update")))
+    const QString expected = script.left(script.size() - 5) + u"expected"_s;
+    if (!arguments.contains(u"--update"_s))
         return compare(expected, transcript);
     QFile file(expected);
     const bool written = file.open(QIODevice::WriteOnly) && file.write(transcript) == transcript.size();

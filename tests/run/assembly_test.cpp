@@ -1,6 +1,6 @@
 #include "tests/run/rule_text.h"
 
-#include "run/totals.h"
+#include "run/rules/totals.h"
 
 #include <gtest/gtest.h>
 

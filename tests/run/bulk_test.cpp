@@ -1,7 +1,7 @@
-#include "run/compute.h"
-#include "run/reference/plain_lookups.h"
-#include "run/totals.h"
+#include "run/reading/compute.h"
+#include "run/rules/totals.h"
 #include "tests/run/random_company.h"
+#include "tests/run/reference/plain_lookups.h"
 #include "tests/run/rule_text.h"
 #include "tests/support/test_database.h"
 #include "toolkit/text/number_text.h"
@@ -12,17 +12,19 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// The whole run, each number with as many digits as tell it from its neighbours.
 std::string exactly(const run::Run& made) {
     QStringList texts{QString::number(made.nomor_rincian_terakhir), QString::number(made.nomor_baris_terakhir)};
     for (const run::Line& line : made.lines) {
-        texts << QStringLiteral("\n%1 employee %2").arg(line.no_urut).arg(line.emp_id_auto) << line.pin << line.nik
-              << line.nama << plainNumber(line.tot_payroll);
+        texts << u"\n%1 employee %2"_s.arg(line.no_urut).arg(line.emp_id_auto) << line.pin << line.nik << line.nama
+              << plainNumber(line.tot_payroll);
         for (const run::Row& row : line.rows)
-            texts << QStringLiteral("\n  %1 employee %2").arg(row.no_urut_ref).arg(row.emp_id_auto) << row.com_kode
-                  << row.com_name << describe({row});
+            texts << u"\n  %1 employee %2"_s.arg(row.no_urut_ref).arg(row.emp_id_auto) << row.com_kode << row.com_name
+                  << describe({row});
     }
     return (texts << u'\n' + plainNumber(made.tot_process)).join(u' ').toStdString();
 }
@@ -37,22 +39,22 @@ protected:
 
     void fill(const QString& mainRows, const QString& settingRows) {
         for (const QString& table : m_tables)
-            m_main.execute(QStringLiteral("delete from ") + table);
-        m_app.execute(QStringLiteral("delete from global_setting"));
+            m_main.execute(u"delete from "_s + table);
+        m_app.execute(u"delete from global_setting"_s);
         m_database.run(mainRows);
         m_database.runApp(settingRows);
     }
 
     /// Compares both ways while the table is away, before and after rounding; gives the rows with an amount.
-    qsizetype compare(const run::Selections& selections, double round_value, const QString& missing) {
+    qsizetype compare(const run::SessionSelections& selections, double round_value, const QString& missing) {
         if (!missing.isEmpty())
-            m_main.execute(QStringLiteral("rename table %1 to away").arg(missing));
+            m_main.execute(u"rename table %1 to away"_s.arg(missing));
         run::PlainLookups lookups(m_main, m_app, selections);
         run::Run plain;
         run::Run bulk;
         EXPECT_EQ(computeRun(bulk, selections, m_main, m_app), proses(plain, selections, lookups));
         if (!missing.isEmpty())
-            m_main.execute(QStringLiteral("rename table away to %1").arg(missing));
+            m_main.execute(u"rename table away to %1"_s.arg(missing));
         EXPECT_EQ(exactly(bulk), exactly(plain));
         hitung(plain, round_value);
         hitung(bulk, round_value);
@@ -66,14 +68,14 @@ protected:
     TestDatabase m_database;
     db::Connection m_main;
     db::Connection m_app;
-    const QStringList m_tables = m_database.rows(QStringLiteral("show tables"));
+    const QStringList m_tables = m_database.rows(u"show tables"_s);
 };
 
 } // namespace
 
 TEST_F(Companies, YieldInBulkWhatOneStatementPerLookupYieldsToTheLastDigit) {
-    const int first = qEnvironmentVariable("ORVANE_RUN_SEED", QStringLiteral("1")).toInt();
-    const int count = qEnvironmentVariable("ORVANE_RUN_COMPANIES", QStringLiteral("200")).toInt();
+    const int first = qEnvironmentVariable("ORVANE_RUN_SEED", u"1"_s).toInt();
+    const int count = qEnvironmentVariable("ORVANE_RUN_COMPANIES", u"200"_s).toInt();
     qsizetype amounts = 0;
     QString dateType;
     for (int seed = first; seed < first + count && !HasFailure(); ++seed) {
@@ -82,7 +84,7 @@ TEST_F(Companies, YieldInBulkWhatOneStatementPerLookupYieldsToTheLastDigit) {
         if (company.dateType() != std::exchange(dateType, company.dateType()))
             m_database.setDateType(dateType);
         fill(company.mainRows(), company.settingRows());
-        const run::Selections selections = company.selections();
+        const run::SessionSelections selections = company.selections();
         const double round_value = company.round_value();
         amounts += compare(selections, round_value, company.missingTable());
     }
@@ -93,24 +95,22 @@ TEST_F(Companies, YieldInBulkWhatOneStatementPerLookupYieldsToTheLastDigit) {
 }
 
 TEST_F(Companies, TakeAsManyStatementsForThousandEmployeesAsForTen) {
-    run::Selections selections;
-    selections.session_cab_id = frame::Branch::all();
+    run::SessionSelections selections;
+    selections.session_cab_id = base::Branch::all();
     selections.period = {QDate(2024, 2, 1), QDate(2024, 2, 28)};
     selections.groups = {1, 2};
     selections.components = {{.com_id = 1, .no_urut = 1}, {.com_id = 2, .no_urut = 2}};
     selections.loans = run::LoanTest::Period;
     const auto statementsFor = [&](int employees) {
-        fill(QStringLiteral(
-                 "insert into emp (emp_id_auto, emp_status) select seq, 0 from seq_1_to_%1;\n"
-                 "insert into z_pay_grp_emp (grp_id, emp_id_auto) select 1 + seq % 2, seq from seq_1_to_%1;\n"
-                 "insert into shift_result (emp_id_auto, shift_date, valid, duration) select seq, '2024-02-02', 0, 8 "
-                 "from seq_1_to_%1;\n"
-                 "insert into z_pay_grp (grp_id) values (1), (2);\n"
-                 "insert into z_pay_com (com_id, com_name, type, param) values (1, 'Satu', 0, -1), (2, 'Dua', 0, 0);\n"
-                 "insert into z_pay_grp_com (grp_id, com_id, no_urut_ref, use_kode_if, use_sum, use_kode_sum, "
-                 "id_kode_sum, hitung) values (1, 1, 1, -1, -1, 0, 4, 0), (2, 1, 1, -1, -1, 0, 4, 1), "
-                 "(1, 2, 2, -1, -1, 1, 1, 0), (2, 2, 2, -1, -1, 0, 17, 1);\n")
-                 .arg(employees),
+        fill(u"insert into emp (emp_id_auto, emp_status) select seq, 0 from seq_1_to_%1;\n"
+             "insert into z_pay_grp_emp (grp_id, emp_id_auto) select 1 + seq % 2, seq from seq_1_to_%1;\n"
+             "insert into shift_result (emp_id_auto, shift_date, valid, duration) select seq, '2024-02-02', 0, 8 "
+             "from seq_1_to_%1;\n"
+             "insert into z_pay_grp (grp_id) values (1), (2);\n"
+             "insert into z_pay_com (com_id, com_name, type, param) values (1, 'Satu', 0, -1), (2, 'Dua', 0, 0);\n"
+             "insert into z_pay_grp_com (grp_id, com_id, no_urut_ref, use_kode_if, use_sum, use_kode_sum, "
+             "id_kode_sum, hitung) values (1, 1, 1, -1, -1, 0, 4, 0), (2, 1, 1, -1, -1, 0, 4, 1), "
+             "(1, 2, 2, -1, -1, 1, 1, 0), (2, 2, 2, -1, -1, 0, 17, 1);\n"_s.arg(employees),
              {});
         const qint64 before = m_main.statementCount() + m_app.statementCount();
         run::Run made;

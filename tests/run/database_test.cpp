@@ -1,9 +1,11 @@
-#include "run/compute.h"
-#include "run/reference/plain_lookups.h"
+#include "run/reading/compute.h"
+#include "tests/run/reference/plain_lookups.h"
 #include "tests/run/rule_text.h"
 #include "tests/support/test_database.h"
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -41,7 +43,7 @@ protected:
         m_database.run(QString::fromUtf8(company));
         m_main.configure(m_database.mainSettings());
         m_app.configure(m_database.appSettings());
-        m_selections.session_cab_id = frame::Branch::all();
+        m_selections.session_cab_id = base::Branch::all();
         m_selections.period = {QDate(2024, 1, 1), QDate(2024, 1, 3)};
     }
 
@@ -65,13 +67,13 @@ protected:
     TestDatabase m_database;
     db::Connection m_main;
     db::Connection m_app;
-    run::Selections m_selections;
+    run::SessionSelections m_selections;
 
 private:
     static std::string text(const run::Run& made) {
         QStringList lines;
         for (const run::Line& line : made.lines)
-            lines << QStringList{line.pin, line.nik, line.nama, u"|"_qs, describe(line.rows)}.join(u' ').trimmed();
+            lines << QStringList{line.pin, line.nik, line.nama, u"|"_s, describe(line.rows)}.join(u' ').trimmed();
         return lines.join(u'\n').toStdString();
     }
 };
@@ -81,9 +83,9 @@ private:
 TEST_F(Database, MembersComeByTheLastWordOfTheirPinAsTextWithoutTheResigned) {
     choose({1}, {});
     EXPECT_EQ(lines(), "10  Budi  |\nA 7 N1 Ayu Sari |\nB 7 N3  Citra |");
-    m_selections.session_cab_id = frame::Branch::one(1);
+    m_selections.session_cab_id = base::Branch::one(1);
     EXPECT_EQ(lines(), "A 7 N1 Ayu Sari |\nB 7 N3  Citra |");
-    m_selections.session_cab_id = frame::Branch();
+    m_selections.session_cab_id = base::Branch();
     EXPECT_EQ(lines(), "");
 }
 
@@ -100,8 +102,7 @@ TEST_F(Database, ATickedEmployeeHasRulesOnlyInAGroupThatStillHoldsHim) {
     // The list was filled when group 2 was chosen.
     m_selections.employees =
         run::EmployeeChoice{{{5, true}, {3, true}, {1, false}},
-                            {{{5, QStringLiteral("8 x"), QStringLiteral("N5"), QStringLiteral("Eko")}, 2},
-                             {{3, QStringLiteral("B 7"), QStringLiteral("N3"), QStringLiteral("Citra")}, 2}}};
+                            {{{5, u"8 x"_s, u"N5"_s, u"Eko"_s}, 2}, {{3, u"B 7"_s, u"N3"_s, u"Citra"_s}, 2}}};
     EXPECT_EQ(lines(), "8 x N5 Eko | 1: 155 x 15.5 (+) [* 10]\nB 7 N3 Citra |");
 }
 

@@ -1,7 +1,7 @@
-#include "run/figure_reader.h"
-#include "run/figure_statements.h"
-#include "run/reference/plain_lookups.h"
-#include "run/statements.h"
+#include "run/reading/figure_reader.h"
+#include "run/reading/figure_statements.h"
+#include "run/reading/statements.h"
+#include "tests/run/reference/plain_lookups.h"
 #include "tests/support/test_database.h"
 
 #include <QLocale>
@@ -68,7 +68,7 @@ protected:
 
     static void run(const QString& sql) { database().run(sql); }
 
-    [[nodiscard]] run::PlainLookups plain() { return {m_main, m_app, run::Selections()}; }
+    [[nodiscard]] run::PlainLookups plain() { return {m_main, m_app, run::SessionSelections()}; }
 
     /// Every figure of employees 5, 7 and 9, over the period and for each of its days.
     [[nodiscard]] run::MemoryLookups bulk(const Window& period) {

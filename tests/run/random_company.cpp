@@ -122,8 +122,8 @@ run::EmployeeChoice RandomCompany::ticks() {
     return choice;
 }
 
-run::Selections RandomCompany::selections() {
-    run::Selections chosen;
+run::SessionSelections RandomCompany::selections() {
+    run::SessionSelections chosen;
     const QDate first(2024, 2, 2);
     chosen.period = {first, first.addDays(once(12) ? -1 - below(2) : below(4))};
     for (int i = 0; i < 2; ++i)
@@ -135,7 +135,7 @@ run::Selections RandomCompany::selections() {
         chosen.employees = ticks();
     chosen.loans = run::LoanTest(below(3));
     chosen.loanMonth = QDate(2024, once(3) ? 3 : 2, 28);
-    chosen.session_cab_id = once(4) ? frame::Branch::one(1) : frame::Branch::all();
+    chosen.session_cab_id = once(4) ? base::Branch::one(1) : base::Branch::all();
     return chosen;
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "run/assembly.h"
+#include "run/reading/statements.h"
 
 #include <QHash>
 #include <QString>
@@ -16,7 +16,7 @@ public:
     /// Each statement ends with a semicolon at the end of its line.
     [[nodiscard]] QString mainRows();
     [[nodiscard]] QString settingRows();
-    [[nodiscard]] run::Selections selections();
+    [[nodiscard]] run::SessionSelections selections();
     [[nodiscard]] double round_value();
     /// What the date columns of its attendance are.
     [[nodiscard]] QString dateType() const { return m_dateType; }

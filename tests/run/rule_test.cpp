@@ -2,13 +2,14 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// One case a line: name | rules | facts | rows that come of them; a backslash carries on in the next line. The rules
 /// stand in place of %1.
 void check(const char* pattern, const char* cases) {
-    for (const QString& line :
-         QString::fromUtf8(cases).remove(QStringLiteral("\\\n")).split(u'\n', Qt::SkipEmptyParts)) {
+    for (const QString& line : QString::fromUtf8(cases).remove(u"\\\n"_s).split(u'\n', Qt::SkipEmptyParts)) {
         const QStringList cells = line.split(u'|');
         const QString rules = QString::fromUtf8(pattern).arg(cells.at(1).simplified());
         const run::Run made = smallCompany(rules, cells.at(2)).computed();
@@ -209,7 +210,7 @@ TEST(DailyComponent, LosesOnlyTheDayOfAFaultAndIsLostWhereTheSumDoesNotFit) {
 }
 
 TEST(DailyComponent, OfAReversedPeriodEndsAsAnEmptyRow) {
-    SmallCompany company = smallCompany(QStringLiteral("hitung=1 typex=1 param uang=10; com=2 sum=k1"));
+    SmallCompany company = smallCompany(u"hitung=1 typex=1 param uang=10; com=2 sum=k1"_s);
     company.selections.period.tanggal_akhir = company.selections.period.tanggal_awal.addDays(-1);
-    EXPECT_EQ(describe(company.computed().lines.at(0).rows), QStringLiteral("1: 0 x 0 (+) []; 2: 0 x 0 (+) []"));
+    EXPECT_EQ(describe(company.computed().lines.at(0).rows), u"1: 0 x 0 (+) []; 2: 0 x 0 (+) []"_s);
 }

@@ -1,12 +1,14 @@
 #include "tests/run/rule_text.h"
 
-#include "run/figures.h"
+#include "run/reading/figures.h"
 
 #include <QLocale>
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -16,20 +18,20 @@ constexpr int employee = 7;
 constexpr int group = 1;
 
 void readSource(const QString& text, int& source, int& id) {
-    source = int(QStringLiteral("fk").indexOf(text[0]));
+    source = int(u"fk"_s.indexOf(text[0]));
     id = text.mid(1).toInt();
 }
 
 void readWord(const QString& key, const QString& value, run::Rule& rule) {
-    const QMap<QString, int*> numbers{{QStringLiteral("com"), &rule.com_id},
-                                      {QStringLiteral("jenis"), &rule.jenis},
-                                      {QStringLiteral("hitung"), &rule.hitung},
-                                      {QStringLiteral("typex"), &rule.typex},
-                                      {QStringLiteral("use_sum"), &rule.use_sum}};
-    const QMap<QString, double*> reals{{QStringLiteral("min"), &rule.min_if},
-                                       {QStringLiteral("max"), &rule.max_if},
-                                       {QStringLiteral("konst"), &rule.konstanta_sum},
-                                       {QStringLiteral("uang"), &rule.nilai_rp}};
+    const QMap<QString, int*> numbers{{u"com"_s, &rule.com_id},
+                                      {u"jenis"_s, &rule.jenis},
+                                      {u"hitung"_s, &rule.hitung},
+                                      {u"typex"_s, &rule.typex},
+                                      {u"use_sum"_s, &rule.use_sum}};
+    const QMap<QString, double*> reals{{u"min"_s, &rule.min_if},
+                                       {u"max"_s, &rule.max_if},
+                                       {u"konst"_s, &rule.konstanta_sum},
+                                       {u"uang"_s, &rule.nilai_rp}};
     if (numbers.contains(key))
         *numbers[key] = value.toInt();
     else if (reals.contains(key))
@@ -90,9 +92,9 @@ run::Rule ruleOf(const QString& text) {
         else if (key == u"sum")
             rule.use_sum = run::flagOn;
     }
-    rule.com_kode = QStringLiteral("K%1").arg(rule.com_id);
+    rule.com_kode = u"K%1"_s.arg(rule.com_id);
     if (rule.com_name.isEmpty())
-        rule.com_name = QStringLiteral("Komponen %1").arg(rule.com_id);
+        rule.com_name = u"Komponen %1"_s.arg(rule.com_id);
     return rule;
 }
 
@@ -103,7 +105,7 @@ SmallCompany smallCompany(const QString& rules, const QString& facts) {
     company.selections.groups = {group};
     run::RulesByComponent byComponent;
     QHash<int, QString> names;
-    for (const QString& text : rules.split(QStringLiteral("; "))) {
+    for (const QString& text : rules.split(u"; "_s)) {
         const run::Rule rule = ruleOf(text);
         if (!byComponent.contains({group, rule.com_id}))
             company.selections.components.push_back({.com_id = rule.com_id, .no_urut = rule.com_id});
@@ -111,7 +113,7 @@ SmallCompany smallCompany(const QString& rules, const QString& facts) {
         if (rule.param == run::flagOn)
             names.insert(rule.com_id, rule.com_name);
     }
-    const run::Employee one{employee, QStringLiteral("0007"), QStringLiteral("N7"), QStringLiteral("Sri Wahyuni")};
+    const run::Employee one{employee, u"0007"_s, u"N7"_s, u"Sri Wahyuni"_s};
     company.tables.members[group] = run::Reading(std::vector{one});
     company.tables.places.insert(employee, 0);
     company.tables.rules = run::Reading(byComponent);
@@ -132,8 +134,7 @@ QString describe(const std::vector<run::Row>& rows) {
     const auto number = [](double value) { return QString::number(value, 'f', QLocale::FloatingPointShortest); };
     QStringList lines;
     for (const run::Row& row : rows)
-        lines << QStringLiteral("%1: %2 x %3 %4 [%5]")
-                     .arg(row.com_id)
+        lines << u"%1: %2 x %3 %4 [%5]"_s.arg(row.com_id)
                      .arg(number(row.subtot_payroll), number(row.jml_faktor), row.jenis(), row.kondisi);
-    return lines.join(QStringLiteral("; "));
+    return lines.join(u"; "_s);
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "run/assembly.h"
-#include "run/memory_lookups.h"
+#include "run/reading/memory_lookups.h"
+#include "run/rules/assembly.h"
 
 #include <QString>
 

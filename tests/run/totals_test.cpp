@@ -1,8 +1,10 @@
-#include "run/totals.h"
+#include "run/rules/totals.h"
 
 #include <QStringList>
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,7 +29,7 @@ Run runOf(const char* lines) {
 }
 
 QString number(double value) {
-    return QString::number(value, 'f', 1).remove(QStringLiteral(".0"));
+    return QString::number(value, 'f', 1).remove(u".0"_s);
 }
 
 /// "1=500 (1:300 2:200)" per line, then the total.
@@ -36,10 +38,10 @@ std::string describe(const Run& made) {
     for (const Line& line : made.lines) {
         QStringList rows;
         for (const Row& row : line.rows)
-            rows << QStringLiteral("%1:%2").arg(row.no_urut_ref).arg(number(row.subtot_payroll));
-        lines << QStringLiteral("%1=%2 (%3)").arg(line.no_urut).arg(number(line.tot_payroll), rows.join(u' '));
+            rows << u"%1:%2"_s.arg(row.no_urut_ref).arg(number(row.subtot_payroll));
+        lines << u"%1=%2 (%3)"_s.arg(line.no_urut).arg(number(line.tot_payroll), rows.join(u' '));
     }
-    return (lines << QStringLiteral("total ") + number(made.tot_process)).join(QStringLiteral(", ")).toStdString();
+    return (lines << u"total "_s + number(made.tot_process)).join(u", "_s).toStdString();
 }
 
 struct Case {

@@ -1,8 +1,10 @@
-#include "frame/settings_file/field_code.h"
+#include "base/settings_file/field_code.h"
 
 #include <QFile>
 
 #include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
 
 using namespace settings;
 
@@ -34,7 +36,7 @@ TEST(SplitFields, BlanksAndTheDelimiterPartFieldsAndQuotesHoldThemTogether) {
         {u';', "a;b c;;\"d;e\" ; f;", "<a><b><c><><d;e><f><>"},
     };
     for (const auto& c : cases) {
-        QStringList list{QStringLiteral("left over")};
+        QStringList list{u"left over"_s};
         SplitFields(c.delimiter, QString::fromUtf8(c.text), &list);
         std::string fields;
         for (const QString& field : list)
@@ -44,7 +46,7 @@ TEST(SplitFields, BlanksAndTheDelimiterPartFieldsAndQuotesHoldThemTogether) {
 }
 
 TEST(DecodeBase64, TakesTheOneSpellingOfAValueOnly) {
-    EXPECT_EQ(DecodeBase64(QStringLiteral("YWLDqeKCrA==")), QStringLiteral("abé€"));
+    EXPECT_EQ(DecodeBase64(u"YWLDqeKCrA=="_s), u"abé€"_s);
     for (const char16_t* wrong :
          {u"YQ", u"YR==", u"YQ==\n", u"Y Q==", u"Y!Q==", u"====", u"-_-_", u"/w==", u"wg==", u"YQ==YQ==", u"\u0159Q=="})
         EXPECT_EQ(DecodeBase64(QString::fromUtf16(wrong)), QString()) << QString::fromUtf16(wrong).toStdString();
@@ -54,10 +56,10 @@ TEST(DecodeField, ReadsWhatEarlierVersionsWroteAndAnythingNotMarkedAsAaa) {
     const QByteArray good = marks();
     const std::pair<QString, const char*> cases[] = {
         // Files written today must be readable by tomorrow's program, so the marks themselves are fixed here.
-        {QStringLiteral("cHcgd2l0aCBibGFua2Y3K014RD1aMm8="), "pw with blank"},
-        {QStringLiteral("ZjcrTXhEPVoybw=="), ""},
+        {u"cHcgd2l0aCBibGFua2Y3K014RD1aMm8="_s, "pw with blank"},
+        {u"ZjcrTXhEPVoybw=="_s, ""},
         {base64("v" + good), "v"},
-        {QStringLiteral("root"), "aaa"},
+        {u"root"_s, "aaa"},
         {base64("root"), "aaa"},
         {base64("v" + good.right(9)), "aaa"},
         {base64("v" + good.right(5) + good.left(5)), "aaa"},
@@ -71,7 +73,7 @@ TEST(DecodeField, ReadsWhatEarlierVersionsWroteAndAnythingNotMarkedAsAaa) {
 }
 
 TEST(DecodeField, NoMarkStandsInTheProgramsFile) {
-    QFile program(QStringLiteral("/proc/self/exe"));
+    QFile program(u"/proc/self/exe"_s);
     ASSERT_TRUE(program.open(QIODevice::ReadOnly));
     const QByteArray content = program.readAll();
     for (const QByteArray& mark : {marks().left(5), marks().right(5)}) {

@@ -1,6 +1,6 @@
-#include "frame/settings_file/settings_file.h"
+#include "base/settings_file/settings_file.h"
 
-#include "frame/settings_file/field_code.h"
+#include "base/settings_file/field_code.h"
 
 #include <QDir>
 #include <QProcess>

@@ -1,6 +1,6 @@
 #include "tests/support/test_database.h"
 
-#include "frame/settings_file/settings_file.h"
+#include "base/settings_file/settings_file.h"
 #include "tools/company/generate.h"
 
 #include <QCoreApplication>
@@ -14,10 +14,12 @@
 #include <memory>
 #include <optional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
-const QString token = QStringLiteral("Amber#reef73:~QLD~41|68");
-const QString running = QStringLiteral("orvane.start: running");
+const QString token = u"Amber#reef73:~QLD~41|68"_s;
+const QString running = u"orvane.start: running"_s;
 constexpr int patience = 30'000; // milliseconds
 
 /// One process of the real program, and what its log has said so far.
@@ -68,7 +70,7 @@ TestDatabase& database() {
 settings::DatabaseSettings good() {
     const db::ConnectionSettings& server = database().mainSettings();
     return {.user = server.user,
-            .server = u"127.0.0.1"_qs,
+            .server = u"127.0.0.1"_s,
             .password = server.password,
             .database = server.database,
             .port = server.port};
@@ -79,19 +81,19 @@ settings::DatabaseSettings good() {
 class Installed final {
 public:
     Installed() {
-        std::filesystem::create_hard_link(programBeside(u"orvane-payroll"_qs).toStdString(),
-                                          m_folder.filePath(u"payroll"_qs).toStdString());
+        std::filesystem::create_hard_link(programBeside(u"orvane-payroll"_s).toStdString(),
+                                          m_folder.filePath(u"payroll"_s).toStdString());
         write(good());
     }
 
-    [[nodiscard]] QString settingsFile() const { return m_folder.filePath(u"user.tvk"_qs); }
+    [[nodiscard]] QString settingsFile() const { return m_folder.filePath(u"user.tvk"_s); }
     void write(const settings::DatabaseSettings& settings) const {
         settings::writeSettingsFile(settingsFile(), settings);
     }
 
-    [[nodiscard]] std::unique_ptr<Started> start(const QStringList& arguments = {token, u"budi"_qs}) const {
+    [[nodiscard]] std::unique_ptr<Started> start(const QStringList& arguments = {token, u"budi"_s}) const {
         qputenv("XDG_CONFIG_HOME", m_folder.path().toUtf8());
-        return std::make_unique<Started>(m_folder.filePath(u"payroll"_qs), arguments);
+        return std::make_unique<Started>(m_folder.filePath(u"payroll"_s), arguments);
     }
     void expectSilentEnd() const {
         QElapsedTimer clock;
@@ -103,7 +105,7 @@ public:
     }
 
 private:
-    QTemporaryDir m_folder{QCoreApplication::applicationDirPath() + u"/start-XXXXXX"_qs};
+    QTemporaryDir m_folder{QCoreApplication::applicationDirPath() + u"/start-XXXXXX"_s};
 };
 
 } // namespace
@@ -114,12 +116,12 @@ TEST(Start, OnlyTheRightTokenStartsAndTheOtherArgumentsMayBeMissing) {
         bool starts;
     } cases[] = {
         {{}, false},
-        {{u""_qs, u"budi"_qs}, false},
-        {{token.toLower(), u"budi"_qs}, false},
-        {{token.chopped(1), u"budi"_qs}, false},
-        {{u' ' + token, u"budi"_qs}, false},
+        {{u""_s, u"budi"_s}, false},
+        {{token.toLower(), u"budi"_s}, false},
+        {{token.chopped(1), u"budi"_s}, false},
+        {{u' ' + token, u"budi"_s}, false},
         {{token}, true},
-        {{token, u"budi"_qs, u"1"_qs, u"2"_qs, u"3"_qs, u"4"_qs, u"ignored"_qs}, true},
+        {{token, u"budi"_s, u"1"_s, u"2"_s, u"3"_s, u"4"_s, u"ignored"_s}, true},
     };
     const Installed program;
     for (const auto& [arguments, starts] : cases) {
@@ -139,12 +141,12 @@ TEST(Start, ASecondStartEndsAndBringsTheFirstForward) {
     const Installed other;
     const auto first = program.start();
     ASSERT_TRUE(first->says(running)) << first->log();
-    for (const QStringList& arguments : {QStringList{token, u"budi"_qs}, QStringList{}}) {
+    for (const QStringList& arguments : {QStringList{token, u"budi"_s}, QStringList{}}) {
         const auto second = program.start(arguments);
         EXPECT_EQ(second->end(), 0);
         EXPECT_FALSE(second->says(running));
     }
-    EXPECT_TRUE(first->says(u"brought forward by another start"_qs));
+    EXPECT_TRUE(first->says(u"brought forward by another start"_s));
     EXPECT_TRUE(other.start()->says(running)) << "the program in another folder runs beside the first";
 }
 
@@ -152,11 +154,11 @@ TEST(Start, PingsAnAddressButNoNameAndIsNotBlockedByAKilledProgram) {
     const Installed program;
     const auto byAddress = program.start();
     EXPECT_TRUE(byAddress->says(running)) << byAddress->log();
-    EXPECT_TRUE(byAddress->says(u"ping \"127.0.0.1\" answered"_qs)) << byAddress->log();
+    EXPECT_TRUE(byAddress->says(u"ping \"127.0.0.1\" answered"_s)) << byAddress->log();
     byAddress->kill();
 
     settings::DatabaseSettings named = good();
-    named.server = u"localhost"_qs;
+    named.server = u"localhost"_s;
     program.write(named);
     const auto byName = program.start();
     EXPECT_TRUE(byName->says(running)) << byName->log();
@@ -171,12 +173,12 @@ TEST(Start, WrongSettingsEndInSilence) {
         return settings;
     };
     const Settings cases[] = {
-        changed(&Settings::user, u"nobody"_qs),
-        changed(&Settings::password, u"wrong"_qs),
-        changed(&Settings::database, u"nowhere"_qs),
-        changed(&Settings::server, u"no-such-host.invalid"_qs),
+        changed(&Settings::user, u"nobody"_s),
+        changed(&Settings::password, u"wrong"_s),
+        changed(&Settings::database, u"nowhere"_s),
+        changed(&Settings::server, u"no-such-host.invalid"_s),
         // A broadcast address: this machine refuses to send there, nothing leaves it.
-        changed(&Settings::server, u"255.255.255.255"_qs),
+        changed(&Settings::server, u"255.255.255.255"_s),
         changed(&Settings::port, quint16(1)),
     };
     const Installed program;
@@ -202,7 +204,7 @@ TEST(Start, WithoutADisplayASentenceIsSaid) {
     qputenv("DISPLAY", "nowhere");
     const auto process = program.start();
     EXPECT_EQ(process->end(), 1);
-    EXPECT_TRUE(process->says(u"There is no display"_qs)) << process->log();
+    EXPECT_TRUE(process->says(u"There is no display"_s)) << process->log();
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
@@ -212,7 +214,7 @@ TEST(Start, AnApplicationDatabaseOutOfReachLeavesARunningFrame) {
     alone.database = database().appSettings().database;
     program.write(alone);
     const auto process = program.start();
-    EXPECT_TRUE(process->says(u"fault"_qs)) << process->log();
+    EXPECT_TRUE(process->says(u"fault"_s)) << process->log();
     EXPECT_EQ(process->end(3'000), std::nullopt) << process->log();
 }
 
@@ -224,16 +226,16 @@ struct GrantedUser {
         QFile readme(QStringLiteral(README));
         EXPECT_TRUE(readme.open(QIODevice::ReadOnly));
         QString lines = QString::fromUtf8(readme.readAll());
-        lines.replace(u"orvane_app."_qs, company.appSettings().database + u'.');
-        lines.replace(u"orvane."_qs, company.mainSettings().database + u'.');
-        lines.replace(u"payroll@'%'"_qs, name + u"@'%'"_qs);
+        lines.replace(u"orvane_app."_s, company.appSettings().database + u'.');
+        lines.replace(u"orvane."_s, company.mainSettings().database + u'.');
+        lines.replace(u"payroll@'%'"_s, name + u"@'%'"_s);
         for (const QString& line : lines.split(u'\n'))
             if (line.startsWith(u"    CREATE USER") || line.startsWith(u"    GRANT"))
                 company.run(line);
     }
-    ~GrantedUser() { m_company.run(u"drop user "_qs + name); }
+    ~GrantedUser() { m_company.run(u"drop user "_s + name); }
 
-    const QString name = u"granted_"_qs + QString::number(QCoreApplication::applicationPid());
+    const QString name = u"granted_"_s + QString::number(QCoreApplication::applicationPid());
 
 private:
     TestDatabase& m_company;
@@ -251,10 +253,10 @@ TEST(Grants, ThatTheReadmeTellsSufficeFromTheStartToASavedAndADeletedRun) {
     const QTemporaryDir folder;
     settings::DatabaseSettings file = good();
     file.user = user.name;
-    file.password = u"SECRET"_qs;
+    file.password = u"SECRET"_s;
     file.database = company.mainSettings().database;
-    settings::writeSettingsFile(folder.filePath(u"user.tvk"_qs), file);
-    QFile script(folder.filePath(u"script"_qs));
+    settings::writeSettingsFile(folder.filePath(u"user.tvk"_s), file);
+    QFile script(folder.filePath(u"script"_s));
     ASSERT_TRUE(script.open(QIODevice::WriteOnly));
     script.write("start\nclick btn_cari\nclick Image2\nclick btn_tambah\ntype dbe_nama Oktober\n"
                  "set dbtp_tgl_aw 2026-10-01\nset dbtp_tgl_akh 2026-10-31\nclick btn_select_all\n"
@@ -262,15 +264,14 @@ TEST(Grants, ThatTheReadmeTellsSufficeFromTheStartToASavedAndADeletedRun) {
                  "click btn_cari\ntick dbg_m #1\nclick btn_edit\nclick btn_hitung\nclick btn_simpan\ntick dbg_m #1\n"
                  "answer 1\nclick btn_hapus\n");
     script.close();
-    Started robot(programBeside(u"robot"_qs),
-                  {u"--dir"_qs, folder.path(), u"--user"_qs, u"budi"_qs, script.fileName()});
+    Started robot(programBeside(u"robot"_s), {u"--dir"_s, folder.path(), u"--user"_s, u"budi"_s, script.fileName()});
     EXPECT_EQ(robot.end(), 0) << robot.log();
     EXPECT_EQ(robot.log().find("fault"), std::string::npos) << robot.log();
-    EXPECT_EQ(company.rows(u"select log_note from user_log where login_id='budi'"_qs).join(u'|').toStdString(),
+    EXPECT_EQ(company.rows(u"select log_note from user_log where login_id='budi'"_s).join(u'|').toStdString(),
               "Isian Perhitungan Gaji [Data Baru] - Insert - [Oktober, 2026-10-01 -- 2026-10-31]|"
               "Isian Perhitungan Gaji [Ubah Data] - Update - [Oktober, 2026-10-01 -- 2026-10-31]|"
               "PROSES PERHITUNGAN GAJI - Hapus [Oktober, 2026-10-01 -- 2026-10-31]");
-    EXPECT_EQ(company.rows(u"select * from z_pay_process_d"_qs), QStringList());
+    EXPECT_EQ(company.rows(u"select * from z_pay_process_d"_s), QStringList());
 }
 
 int main(int argc, char** argv) {

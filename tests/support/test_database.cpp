@@ -1,12 +1,14 @@
 #include "tests/support/test_database.h"
 
-#include "frame/settings_file/settings_file.h"
+#include "base/settings_file/settings_file.h"
 #include "tools/company/generate.h"
 
 #include <QCoreApplication>
 
 #include <atomic>
 #include <stdexcept>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -19,7 +21,7 @@ QString variable(const char* name) {
 
 QString uniqueName() {
     static std::atomic<int> count = 0;
-    return QStringLiteral("orvane_test_%1_%2").arg(QCoreApplication::applicationPid()).arg(++count);
+    return u"orvane_test_%1_%2"_s.arg(QCoreApplication::applicationPid()).arg(++count);
 }
 
 } // namespace
@@ -67,11 +69,11 @@ TestDatabase::~TestDatabase() {
 
 void TestDatabase::writeSettingsFile(const QString& folder) const {
     const db::ConnectionSettings& server = mainSettings();
-    settings::writeSettingsFile(folder + QStringLiteral("/user.tvk"), {.user = server.user,
-                                                                       .server = QStringLiteral("localhost"),
-                                                                       .password = server.password,
-                                                                       .database = server.database,
-                                                                       .port = server.port});
+    settings::writeSettingsFile(folder + u"/user.tvk"_s, {.user = server.user,
+                                                          .server = u"localhost"_s,
+                                                          .password = server.password,
+                                                          .database = server.database,
+                                                          .port = server.port});
 }
 
 qint64 TestDatabase::run(db::Connection& connection, const QString& sql) {
@@ -85,7 +87,7 @@ void TestDatabase::setDateType(const QString& type) {
     for (const char* column :
          {"shift_result modify shift_date", "date_temp modify date_temp", "ex_absent modify tgl_awal",
           "free_ot_result_m modify free_date", "holiday modify holiday_date"})
-        run(QStringLiteral("alter table %1 %2 not null").arg(QLatin1String(column), type));
+        run(u"alter table %1 %2 not null"_s.arg(QLatin1String(column), type));
 }
 
 QStringList TestDatabase::rows(db::Connection& connection, const QString& sql) {
@@ -94,7 +96,7 @@ QStringList TestDatabase::rows(db::Connection& connection, const QString& sql) {
     while (result.next()) {
         QStringList values;
         for (int i = 0; i < int(result.columns().size()); ++i)
-            values << (result.isNull(i) ? QStringLiteral("NULL") : result.text(i));
+            values << (result.isNull(i) ? u"NULL"_s : result.text(i));
         lines << values.join(u'\t');
     }
     return lines;

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using company::LoanTerms;
@@ -33,7 +35,7 @@ TEST(Days, ReachOverTheTurnOfTheYearAndMarkPublicHolidays) {
 
 /// Regular principal and receivable; then date, balance, payment, principal, interest, balance of each instalment.
 std::string rowsOf(const company::Schedule& schedule) {
-    QStringList lines{QStringLiteral("%1 %2").arg(schedule.principalEach).arg(schedule.receivable)};
+    QStringList lines{u"%1 %2"_s.arg(schedule.principalEach).arg(schedule.receivable)};
     for (const company::Instalment& one : schedule.instalments) {
         lines << one.due.toString(Qt::ISODate);
         for (const auto amount : {one.balanceBefore, one.payment, one.principal, one.interest, one.balanceAfter})
@@ -70,8 +72,7 @@ TEST(LoanSchedule, CountsInRoundedAmounts) {
 std::string read(const char* table) {
     try {
         std::string text;
-        for (const QStringList& row :
-             company::textRows(QString::fromUtf8(table), {QStringLiteral("a"), QStringLiteral("b")}))
+        for (const QStringList& row : company::textRows(QString::fromUtf8(table), {u"a"_s, u"b"_s}))
             text += row.join(u'|').toStdString() + '/';
         return text;
     } catch (const std::exception& fault) {

@@ -13,7 +13,7 @@
 #include "tests/support/test_database.h"
 #include "tests/walk/proxy.h"
 
-#include "frame/settings_file/settings_file.h"
+#include "base/settings_file/settings_file.h"
 
 #include <QCoreApplication>
 #include <QEventLoop>

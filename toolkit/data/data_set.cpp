@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace data {
 
 namespace {
@@ -164,7 +166,7 @@ int DataSet::fieldIndex(QStringView name) const {
     for (size_t i = 0; i < m_fields.size(); ++i)
         if (name.compare(m_fields[i].name, Qt::CaseInsensitive) == 0)
             return int(i);
-    throw Fault(QStringLiteral("Field '%1' not found").arg(name));
+    throw Fault(u"Field '%1' not found"_s.arg(name));
 }
 
 bool DataSet::hasField(QStringView name) const {
@@ -180,7 +182,7 @@ const QVariant& DataSet::value(QStringView field) const {
 
 void DataSet::requireOpen() const {
     if (!isOpen())
-        throw Fault(QStringLiteral("The data set is closed"));
+        throw Fault(u"The data set is closed"_s);
 }
 
 const Record* DataSet::currentRecord() const {

@@ -3,11 +3,13 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace data {
 
 void DataSet::setValue(QStringView field, const QVariant& value) {
     if (!isEditing())
-        throw Fault(QStringLiteral("'%1' is set while the record is not being edited").arg(field));
+        throw Fault(u"'%1' is set while the record is not being edited"_s.arg(field));
     const size_t index = size_t(fieldIndex(field));
     m_buffer[index] = toField(value, m_fields[index]);
     m_modified = true;
@@ -96,7 +98,7 @@ void DataSet::remove() {
         return;
     }
     if (isEmpty())
-        throw Fault(QStringLiteral("There is no record to delete"));
+        throw Fault(u"There is no record to delete"_s);
     call(events.beforeDelete);
     call(events.beforeScroll);
     removeCurrent();
@@ -120,7 +122,7 @@ void DataSet::settle() {
 void DataSet::requireWritable() const {
     requireOpen();
     if (m_readOnly)
-        throw Fault(QStringLiteral("The data set is read-only"));
+        throw Fault(u"The data set is read-only"_s);
 }
 
 void DataSet::startInsert() {

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace data {
 
 namespace {
@@ -17,11 +19,11 @@ int indexOfField(const std::vector<Field>& fields, const QString& name) {
     for (size_t i = 0; i < fields.size(); ++i)
         if (fields[i].name.compare(name, Qt::CaseInsensitive) == 0)
             return int(i);
-    throw Fault(QStringLiteral("Key field '%1' not found").arg(name));
+    throw Fault(u"Key field '%1' not found"_s.arg(name));
 }
 
 QString quotedName(const QString& name) {
-    return u'`' + QString(name).replace(u'`', QStringLiteral("``")) + u'`';
+    return u'`' + QString(name).replace(u'`', u"``"_s) + u'`';
 }
 
 } // namespace
@@ -38,7 +40,7 @@ TableWriter::TableWriter(const QString& table, const std::vector<Field>& fields,
             !neverWritten.contains(fields[i].name, Qt::CaseInsensitive))
             m_written.push_back(int(i));
     if (m_table.isEmpty() || m_keys.empty())
-        throw Fault(QStringLiteral("The data set has no table to write to"));
+        throw Fault(u"The data set has no table to write to"_s);
 }
 
 std::vector<int> TableWriter::changedFields(const RowUpdate& row) const {
@@ -56,19 +58,19 @@ std::vector<QVariant> TableWriter::keyOf(const Record& record) const {
 }
 
 QString TableWriter::deleteRows(std::span<const Record* const> rows) const {
-    QString sql = QStringLiteral("DELETE FROM %1 WHERE ").arg(quotedName(m_table));
+    QString sql = u"DELETE FROM %1 WHERE "_s.arg(quotedName(m_table));
     const QString last = columnOf(m_keys.back());
     QString open;
     for (const Record* row : rows) {
         // Rows that share all keys but the last stand in one list, which the server reads as points of its index.
         const QString shared = keysButLast(*row);
         if (open.isNull())
-            sql += shared + last + QStringLiteral(" IN (");
+            sql += shared + last + u" IN ("_s;
         else if (shared == open)
             sql += u',';
         else
-            sql += QStringLiteral(") OR ") + shared + last + QStringLiteral(" IN (");
-        open = shared.isNull() ? QStringLiteral("") : shared;
+            sql += u") OR "_s + shared + last + u" IN ("_s;
+        open = shared.isNull() ? u""_s : shared;
         sql += literalOf(*row, m_keys.back());
     }
     return sql + u')';
@@ -77,37 +79,35 @@ QString TableWriter::deleteRows(std::span<const Record* const> rows) const {
 QString TableWriter::updateRows(std::span<const RowUpdate> rows, const std::vector<int>& changed) const {
     QString list;
     for (const RowUpdate& row : rows) {
-        list += list.isEmpty() ? QStringLiteral("SELECT ") : QStringLiteral(" UNION ALL SELECT ");
+        list += list.isEmpty() ? u"SELECT "_s : u" UNION ALL SELECT "_s;
         for (size_t i = 0; i < m_keys.size(); ++i)
-            list += literalOf(*row.loaded, m_keys[i]) + QStringLiteral(" AS k%1, ").arg(i);
+            list += literalOf(*row.loaded, m_keys[i]) + u" AS k%1, "_s.arg(i);
         for (size_t i = 0; i < changed.size(); ++i)
-            list += literalOf(*row.current, changed[i]) + QStringLiteral(" AS c%1, ").arg(i);
+            list += literalOf(*row.current, changed[i]) + u" AS c%1, "_s.arg(i);
         list.chop(2);
     }
     QStringList found;
     for (size_t i = 0; i < m_keys.size(); ++i)
-        found << QStringLiteral("t.%1=n.k%2").arg(columnOf(m_keys[i])).arg(i);
+        found << u"t.%1=n.k%2"_s.arg(columnOf(m_keys[i])).arg(i);
     QStringList set;
     for (size_t i = 0; i < changed.size(); ++i)
-        set << QStringLiteral("t.%1=n.c%2").arg(columnOf(changed[i])).arg(i);
+        set << u"t.%1=n.c%2"_s.arg(columnOf(changed[i])).arg(i);
     // The list of new values leads, so that each finds its row by the key and the table is never read through.
-    return QStringLiteral("UPDATE (") + list + QStringLiteral(") AS n STRAIGHT_JOIN ") + quotedName(m_table) +
-           QStringLiteral(" AS t ON ") + found.join(QStringLiteral(" AND ")) + QStringLiteral(" SET ") +
-           set.join(QStringLiteral(", "));
+    return u"UPDATE ("_s + list + u") AS n STRAIGHT_JOIN "_s + quotedName(m_table) + u" AS t ON "_s +
+           found.join(u" AND "_s) + u" SET "_s + set.join(u", "_s);
 }
 
 TableWriter::Insert TableWriter::insertRows(std::span<const Record* const> rows) const {
     QStringList columns;
     for (const int field : m_written)
         columns << columnOf(field);
-    Insert insert{.sql = QStringLiteral("INSERT INTO %1 (%2) VALUES ").arg(quotedName(m_table), columns.join(u',')),
-                  .rows = 0};
+    Insert insert{.sql = u"INSERT INTO %1 (%2) VALUES "_s.arg(quotedName(m_table), columns.join(u',')), .rows = 0};
     insert.sql.reserve(longestInsert + 1000);
     for (const Record* row : rows) {
-        QString values = insert.rows == 0 ? QStringLiteral("(") : QStringLiteral(",(");
+        QString values = insert.rows == 0 ? u"("_s : u",("_s;
         for (const int field : m_written)
             // What nobody filled in is left to the column's default.
-            values += ((*row)[size_t(field)].isValid() ? literalOf(*row, field) : QStringLiteral("DEFAULT")) + u',';
+            values += ((*row)[size_t(field)].isValid() ? literalOf(*row, field) : u"DEFAULT"_s) + u',';
         values.back() = u')';
         if (insert.rows > 0 && insert.sql.size() + values.size() > longestInsert)
             break;
@@ -121,11 +121,11 @@ QString TableWriter::literalOf(const Record& record, int field) const {
     const QVariant& value = record[size_t(field)];
     const Field& column = m_fields[size_t(field)];
     if (column.type == FieldType::Integer && value.isValid() && !fitsWidth(value.toLongLong(), column))
-        throw db::Fault(0, {},
-                        QStringLiteral("%1 does not fit column '%2' of '%3', which has %4 bits")
-                            .arg(value.toString(), column.name, m_table)
-                            .arg(column.bits),
-                        {});
+        throw db::Fault(
+            0, {},
+            u"%1 does not fit column '%2' of '%3', which has %4 bits"_s.arg(value.toString(), column.name, m_table)
+                .arg(column.bits),
+            {});
     return db::literal(value);
 }
 
@@ -136,7 +136,7 @@ QString TableWriter::columnOf(int field) const {
 QString TableWriter::keysButLast(const Record& record) const {
     QString shared;
     for (size_t i = 0; i + 1 < m_keys.size(); ++i)
-        shared += columnOf(m_keys[i]) + u'=' + literalOf(record, m_keys[i]) + QStringLiteral(" AND ");
+        shared += columnOf(m_keys[i]) + u'=' + literalOf(record, m_keys[i]) + u" AND "_s;
     return shared;
 }
 

@@ -8,15 +8,17 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace data {
 
 namespace {
 
-const QString dateShape = QStringLiteral("yyyy-MM-dd");
-const QString momentShape = QStringLiteral("yyyy-MM-dd HH:mm:ss");
+const QString dateShape = u"yyyy-MM-dd"_s;
+const QString momentShape = u"yyyy-MM-dd HH:mm:ss"_s;
 
 [[noreturn]] void refuse(const QVariant& value, const char* wanted) {
-    throw Fault(QStringLiteral("'%1' does not read as %2").arg(value.toString(), QLatin1String(wanted)));
+    throw Fault(u"'%1' does not read as %2"_s.arg(value.toString(), QLatin1String(wanted)));
 }
 
 qint64 rounded(double value) {

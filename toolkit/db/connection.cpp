@@ -9,6 +9,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace db {
 
 void Connection::Close::operator()(st_mysql* session) const {
@@ -71,8 +73,7 @@ int Connection::write(const QByteArray& utf8) {
 
 void Connection::openAsNeeded(const QString& sql) {
     if (m_inTransaction && !m_session)
-        throw Fault(CR_SERVER_GONE_ERROR, QStringLiteral("HY000"),
-                    QStringLiteral("The session was lost inside a transaction"), sql);
+        throw Fault(CR_SERVER_GONE_ERROR, u"HY000"_s, u"The session was lost inside a transaction"_s, sql);
     if (m_session && !m_inTransaction && peerHasClosed())
         close();
     if (m_session)
@@ -144,7 +145,7 @@ Result Connection::fetch(const QString& sql) {
         return Result(rows);
     if (mysql_errno(m_session.get()) != 0)
         raise(sql);
-    throw Fault(0, {}, QStringLiteral("The statement yields no rows"), sql);
+    throw Fault(0, {}, u"The statement yields no rows"_s, sql);
 }
 
 qint64 Connection::execute(const QString& sql) {

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace db {
 
 namespace {
@@ -13,7 +15,7 @@ Fault::Fault(unsigned code, QString sqlState, const QString& message, QString st
     m_statement(std::move(statement)) {}
 
 QString Fault::details() const {
-    return QStringLiteral("%1 %2 | %3").arg(m_code).arg(m_sqlState, m_statement.left(loggedLetters));
+    return u"%1 %2 | %3"_s.arg(m_code).arg(m_sqlState, m_statement.left(loggedLetters));
 }
 
 bool Fault::isConnectionLoss() const {

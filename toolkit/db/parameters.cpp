@@ -6,6 +6,8 @@
 
 #include <QDateTime>
 
+using namespace Qt::StringLiterals;
+
 namespace db {
 
 namespace {
@@ -19,7 +21,7 @@ qsizetype skipOpaque(const QString& sql, qsizetype at) {
     const QChar c = sql[at];
     const QStringView rest = QStringView(sql).mid(at);
     if (rest.startsWith(u"/*")) {
-        const qsizetype end = sql.indexOf(QLatin1String("*/"), at + 2);
+        const qsizetype end = sql.indexOf("*/"_L1, at + 2);
         return end < 0 ? sql.size() : end + 2;
     }
     if (c == u'#' || rest.startsWith(u"-- ")) {
@@ -42,10 +44,10 @@ qsizetype skipOpaque(const QString& sql, qsizetype at) {
 
 QString literal(const QVariant& value) {
     if (value.isNull() || !value.isValid())
-        return QStringLiteral("NULL");
+        return u"NULL"_s;
     switch (value.typeId()) {
     case QMetaType::Bool:
-        return value.toBool() ? QStringLiteral("-1") : QStringLiteral("0");
+        return value.toBool() ? u"-1"_s : u"0"_s;
     case QMetaType::Int:
     case QMetaType::UInt:
     case QMetaType::LongLong:
@@ -54,9 +56,9 @@ QString literal(const QVariant& value) {
     case QMetaType::Double:
         return plainNumber(value.toDouble());
     case QMetaType::QDate:
-        return value.toDate().toString(QStringLiteral("''yyyy-MM-dd''"));
+        return value.toDate().toString(u"''yyyy-MM-dd''"_s);
     case QMetaType::QDateTime:
-        return value.toDateTime().toString(QStringLiteral("''yyyy-MM-dd HH:mm:ss''"));
+        return value.toDateTime().toString(u"''yyyy-MM-dd HH:mm:ss''"_s);
     default:
         return EscapeSqlText(value.toString());
     }
@@ -82,7 +84,7 @@ QString bindParameters(const QString& sql, const Parameters& values) {
             ++end;
         const QString name = sql.mid(at + 1, end - at - 1).toLower();
         if (!literals.contains(name))
-            throw Fault(0, {}, QStringLiteral("Parameter '%1' has no value").arg(name), sql);
+            throw Fault(0, {}, u"Parameter '%1' has no value"_s.arg(name), sql);
         bound += literals.value(name);
         at = end;
     }

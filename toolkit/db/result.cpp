@@ -8,6 +8,8 @@
 #include <cmath>
 #include <limits>
 
+using namespace Qt::StringLiterals;
+
 namespace db {
 
 namespace {
@@ -85,7 +87,7 @@ int Result::columnIndex(const QString& name) const {
     for (std::size_t i = 0; i < m_columns.size(); ++i)
         if (m_columns[i].name.compare(name, Qt::CaseInsensitive) == 0)
             return int(i);
-    throw Fault(0, {}, QStringLiteral("Field '%1' not found").arg(name), {});
+    throw Fault(0, {}, u"Field '%1' not found"_s.arg(name), {});
 }
 
 qint64 Result::rowCount() const {
@@ -120,9 +122,7 @@ qint64 Result::integer(int column) const {
     const double rounded = std::nearbyint(leadingNumber(raw));
     // 2^63 itself is the first double that a signed 64-bit integer does not hold.
     if (!(rounded >= -0x1p63 && rounded < 0x1p63))
-        throw Fault(0, {},
-                    QStringLiteral("Value of '%1' does not fit an integer").arg(m_columns[std::size_t(column)].name),
-                    {});
+        throw Fault(0, {}, u"Value of '%1' does not fit an integer"_s.arg(m_columns[std::size_t(column)].name), {});
     return qint64(rounded);
 }
 

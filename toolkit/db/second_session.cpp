@@ -4,6 +4,8 @@
 #include "toolkit/db/session_setup.h"
 #include "toolkit/db/statement_watch.h"
 
+using namespace Qt::StringLiterals;
+
 namespace db {
 
 /// Keeps the watch of the first session informed; what it wishes is for that one alone.
@@ -39,8 +41,8 @@ Connection::Sign Connection::lookFromOutside() const {
         // Behind one address there may be several servers, and each counts its sessions by itself.
         if (second.m_identity.server != m_identity.server)
             return Sign::Unknown;
-        Result found = second.query(
-            QStringLiteral("select command from information_schema.processlist where id=%1").arg(m_identity.number));
+        Result found =
+            second.query(u"select command from information_schema.processlist where id=%1"_s.arg(m_identity.number));
         if (!found.next())
             return Sign::Gone;
         return found.text(0) == u"Sleep" ? Sign::Idle : Sign::AtWork;
@@ -57,7 +59,7 @@ bool Connection::killStatement() const {
         openSecond(second, onlooker);
         if (second.m_identity.server != m_identity.server)
             return false;
-        second.execute(QStringLiteral("kill query %1").arg(m_identity.number));
+        second.execute(u"kill query %1"_s.arg(m_identity.number));
         return true;
     } catch (const Fault&) {
         return false;

@@ -11,6 +11,8 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace db {
 
 namespace {
@@ -79,10 +81,10 @@ void keepAlive(st_mysql* session) {
 QString unsafeIn(const SessionValues& values) {
     for (const QString& characterSet : {values.client, values.connection, values.results})
         if (!isUtf8(characterSet))
-            return QStringLiteral("the session's character set is %1 instead of utf8mb4").arg(characterSet);
+            return u"the session's character set is %1 instead of utf8mb4"_s.arg(characterSet);
     for (const QString& mode : values.sqlMode.split(u','))
         if (mode == u"NO_BACKSLASH_ESCAPES" || mode == u"ANSI_QUOTES")
-            return QStringLiteral("the session's mode holds %1").arg(mode);
+            return u"the session's mode holds %1"_s.arg(mode);
     return {};
 }
 
@@ -100,7 +102,7 @@ SessionIdentity agreeOnSession(st_mysql* session) {
     values.next();
     const QString fault = unsafeIn({values.text(0), values.text(1), values.text(2), values.text(3)});
     if (!fault.isEmpty())
-        throw Fault(0, {}, QStringLiteral("Texts are not safe on this server: %1").arg(fault), {});
+        throw Fault(0, {}, u"Texts are not safe on this server: %1"_s.arg(fault), {});
     return {values.text(4), values.integer(5)};
 }
 

@@ -2,12 +2,14 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace db {
 
 Transaction::Transaction(Connection& connection) : m_connection(connection) {
     if (connection.m_inTransaction)
         throw std::logic_error("A transaction inside another one");
-    connection.execute(QStringLiteral("START TRANSACTION"));
+    connection.execute(u"START TRANSACTION"_s);
     connection.m_inTransaction = true;
 }
 
@@ -16,7 +18,7 @@ Transaction::~Transaction() {
         return;
     try {
         if (m_connection.isOpen())
-            m_connection.execute(QStringLiteral("ROLLBACK"));
+            m_connection.execute(u"ROLLBACK"_s);
     } catch (const Fault&) {
         // Without its session the server rolls back by itself.
         m_connection.close();
@@ -27,7 +29,7 @@ Transaction::~Transaction() {
 void Transaction::commit() {
     const bool canArrive = m_connection.isOpen();
     try {
-        m_connection.execute(QStringLiteral("COMMIT"));
+        m_connection.execute(u"COMMIT"_s);
     } catch (const Fault& fault) {
         if (canArrive && fault.stopsWork())
             throw CommitUnknown(fault.what());

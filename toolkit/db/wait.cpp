@@ -9,6 +9,8 @@
 #include <exception>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace db {
 
 namespace {
@@ -23,7 +25,7 @@ Connection::Wait::Wait(Connection& connection, Phase phase) :
     m_connection(connection), m_phase(phase), m_around(s_innermost), m_outer(connection.m_wait),
     m_outcome(m_outer ? m_outer->m_outcome : m_own) {
     if (phase == Phase::Answering && m_around && !connection.m_isSecond)
-        throw Fault(0, {}, QStringLiteral("The answer to another statement is still awaited"), {});
+        throw Fault(0, {}, u"The answer to another statement is still awaited"_s, {});
     if (phase == Phase::Connecting && !m_outcome.cancelled)
         m_outcome.givenUp.clear();
     s_innermost = connection.m_wait = this;
@@ -92,16 +94,16 @@ void Connection::Wait::look() {
     const Sign sign = m_connection.lookFromOutside();
     m_outcome.idleLooks = sign == Sign::Idle ? m_outcome.idleLooks + 1 : 0;
     if (sign == Sign::Silent)
-        m_outcome.givenUp = QStringLiteral("The server has stopped answering");
+        m_outcome.givenUp = u"The server has stopped answering"_s;
     else if (sign == Sign::Gone)
-        m_outcome.givenUp = QStringLiteral("The server has ended the session");
+        m_outcome.givenUp = u"The server has ended the session"_s;
     else if (m_outcome.idleLooks > 1) // once, the answer may just have been on its way
-        m_outcome.givenUp = QStringLiteral("The statement or its answer got lost on the way");
+        m_outcome.givenUp = u"The statement or its answer got lost on the way"_s;
 }
 
 Fault Connection::Wait::judged(const Fault& fault) const {
     if (m_outcome.cancelled)
-        return {Fault::interrupted, QStringLiteral("70100"), m_connection.m_watch->cancelled(), fault.statement()};
+        return {Fault::interrupted, u"70100"_s, m_connection.m_watch->cancelled(), fault.statement()};
     if (isGivenUp())
         return {fault.code(), fault.sqlState(), m_outcome.givenUp, fault.statement()};
     return fault;

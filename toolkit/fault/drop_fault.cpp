@@ -2,6 +2,8 @@
 
 #include "toolkit/fault/fault.h"
 
+using namespace Qt::StringLiterals;
+
 namespace fault {
 
 Q_LOGGING_CATEGORY(faultLog, "orvane.fault", QtCriticalMsg)
@@ -15,7 +17,7 @@ void log(const char* what, const std::exception& fault) {
     QStringList told{QString::fromUtf8(what), QString::fromUtf8(fault.what())};
     if (const auto* known = dynamic_cast<const Fault*>(&fault); known && !known->details().isEmpty())
         told << known->details();
-    qCDebug(faultLog).noquote() << told.join(QStringLiteral(" | "));
+    qCDebug(faultLog).noquote() << told.join(u" | "_s);
 }
 
 } // namespace

@@ -15,6 +15,8 @@
 #include <system_error>
 #include <thread>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
@@ -88,7 +90,7 @@ Holder callHolder(const Address& place) {
 } // namespace
 
 QString runningProgram() {
-    return QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget();
+    return QFileInfo(u"/proc/self/exe"_s).symLinkTarget();
 }
 
 InstanceGuard::InstanceGuard(const QString& programPath) : m_name(socketName(programPath)) {}

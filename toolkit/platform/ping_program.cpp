@@ -7,6 +7,8 @@
 
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
@@ -27,15 +29,14 @@ constexpr int notSent = 2;
 int exitCode(const QString& program, in_addr address, std::chrono::milliseconds timeout) {
     const QString seconds = QString::number(double(timeout.count()) / 1000);
     QProcessEnvironment environment;
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("C"));
+    environment.insert(u"LC_ALL"_s, u"C"_s);
     QProcess ping;
     ping.setProcessEnvironment(environment);
     ping.setStandardInputFile(QProcess::nullDevice());
     ping.setStandardOutputFile(QProcess::nullDevice());
     ping.setStandardErrorFile(QProcess::nullDevice());
-    ping.start(program, {QStringLiteral("-n"), QStringLiteral("-q"), QStringLiteral("-c"), QStringLiteral("1"),
-                         QStringLiteral("-s"), QStringLiteral("100"), QStringLiteral("-p"), QStringLiteral("aa"),
-                         QStringLiteral("-t"), QStringLiteral("64"), QStringLiteral("-W"), seconds, dotted(address)});
+    ping.start(program, {u"-n"_s, u"-q"_s, u"-c"_s, u"1"_s, u"-s"_s, u"100"_s, u"-p"_s, u"aa"_s, u"-t"_s, u"64"_s,
+                         u"-W"_s, seconds, dotted(address)});
     const bool ended = ping.waitForFinished(int((timeout + slack).count()));
     return ended && ping.exitStatus() == QProcess::NormalExit ? ping.exitCode() : notSent;
 }
@@ -44,7 +45,7 @@ int exitCode(const QString& program, in_addr address, std::chrono::milliseconds 
 
 // Fixed places: a search path is the caller's to set.
 QString installedPing() {
-    for (const QString& path : {QStringLiteral("/usr/bin/ping"), QStringLiteral("/bin/ping")})
+    for (const QString& path : {u"/usr/bin/ping"_s, u"/bin/ping"_s})
         if (QFileInfo(path).isFile() && QFileInfo(path).isExecutable())
             return path;
     return {};

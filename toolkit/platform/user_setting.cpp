@@ -8,6 +8,8 @@
 #include <filesystem>
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 namespace platform {
 
 namespace {
@@ -22,7 +24,7 @@ QString contentOf(const QString& path) {
     QFile file(path);
     const QByteArray content = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
     if (file.error() != QFileDevice::NoError)
-        throw std::runtime_error(QStringLiteral("%1: %2").arg(path, file.errorString()).toStdString());
+        throw std::runtime_error(u"%1: %2"_s.arg(path, file.errorString()).toStdString());
     return QString::fromUtf8(content);
 }
 
@@ -40,11 +42,11 @@ QStringView withoutQuotes(QStringView value) {
 } // namespace
 
 QString userSettingFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + QStringLiteral("/orvane");
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) + u"/orvane"_s;
 }
 
 QString ReadUserSetting(const QString& name, const QString& folder) {
-    const QString path = folder + QStringLiteral("/user.conf");
+    const QString path = folder + u"/user.conf"_s;
     const QString text = contentOf(path);
     bool isThere = false;
     for (const QStringView line : QStringView(text).split(u'\n')) {
@@ -60,7 +62,7 @@ QString ReadUserSetting(const QString& name, const QString& folder) {
     }
     // Whoever wrote the name meant something by it; to pass over it would lift a limit.
     if (!isThere && withoutBlanks(text).contains(withoutBlanks(name), Qt::CaseInsensitive))
-        throw std::runtime_error(QStringLiteral("%1: no value for '%2' can be read").arg(path, name).toStdString());
+        throw std::runtime_error(u"%1: no value for '%2' can be read"_s.arg(path, name).toStdString());
     qCWarning(platformLog) << "user setting" << name << "not in" << path;
     return {};
 }

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace report {
 
 namespace {
@@ -12,22 +14,20 @@ QString millimetres(double value) {
 }
 
 QString quoted(QString text) {
-    text.replace(u'\\', QStringLiteral("\\\\"))
-        .replace(u'"', QStringLiteral("\\\""))
-        .replace(u'\n', QStringLiteral("\\n"));
+    text.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s).replace(u'\n', u"\\n"_s);
     return u'"' + text + u'"';
 }
 
 QString line(const Mark& mark) {
     QStringList words{mark.band, millimetres(mark.box.x()), millimetres(mark.box.y()), quoted(mark.text)};
     if (mark.look.bold)
-        words << QStringLiteral("bold");
+        words << u"bold"_s;
     if (mark.look.underline)
-        words << QStringLiteral("underline");
+        words << u"underline"_s;
     if (mark.kind == Mark::Kind::Frame)
-        words << QStringLiteral("box");
+        words << u"box"_s;
     if (mark.fill.isValid())
-        words << QStringLiteral("fill ") + mark.fill.name();
+        words << u"fill "_s + mark.fill.name();
     return words.join(u' ');
 }
 
@@ -56,8 +56,7 @@ QStringList textLines(const Page& page) {
 QStringList textLines(const Document& document) {
     QStringList lines;
     for (size_t i = 0; i < document.pages.size(); ++i)
-        lines << QStringLiteral("page %1 of %2 %3x%4 mm")
-                     .arg(i + 1)
+        lines << u"page %1 of %2 %3x%4 mm"_s.arg(i + 1)
                      .arg(document.pages.size())
                      .arg(millimetres(document.paper.width), millimetres(document.paper.height))
               << textLines(document.pages[i]);

@@ -14,6 +14,8 @@
 #include <array>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 using report::PageView;
 
 namespace {
@@ -139,10 +141,10 @@ void Tfrm_preview::btn_cetakClick() {
 }
 
 void Tfrm_preview::btn_simpanClick() {
-    QFileDialog dialog(this, windowTitle(), {}, QStringLiteral("PDF (*.pdf)"));
+    QFileDialog dialog(this, windowTitle(), {}, u"PDF (*.pdf)"_s);
     dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setDefaultSuffix(QStringLiteral("pdf"));
-    dialog.selectFile(document().title + QStringLiteral(".pdf"));
+    dialog.setDefaultSuffix(u"pdf"_s);
+    dialog.selectFile(document().title + u".pdf"_s);
     if (dialog.exec() == QDialog::Accepted)
         tryOutput(this, [&] { report::savePdf(document(), dialog.selectedFiles().constFirst()); });
 }

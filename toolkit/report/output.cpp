@@ -5,6 +5,8 @@
 #include <QPrinter>
 #include <QSaveFile>
 
+using namespace Qt::StringLiterals;
+
 namespace report {
 
 namespace {
@@ -17,7 +19,7 @@ const QColor lineInk(0x70, 0x70, 0x70);
 
 QPageLayout layoutOf(const Paper& paper) {
     const QPageSize size({paper.width, paper.height}, QPageSize::Millimeter,
-                         QStringLiteral("%1 x %2 mm").arg(paper.width).arg(paper.height), QPageSize::ExactMatch);
+                         u"%1 x %2 mm"_s.arg(paper.width).arg(paper.height), QPageSize::ExactMatch);
     return {size, QPageLayout::Portrait, {}};
 }
 

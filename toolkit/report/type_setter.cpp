@@ -6,6 +6,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace report {
 
 namespace {
@@ -13,7 +15,7 @@ namespace {
 constexpr double pointsPerMm = 72 / 25.4;
 
 QString availableFamily() {
-    for (const QString& family : {QStringLiteral("Arial"), QStringLiteral("Liberation Sans")})
+    for (const QString& family : {u"Arial"_s, u"Liberation Sans"_s})
         if (QFontDatabase::hasFamily(family))
             return family;
     return QFontDatabase::systemFont(QFontDatabase::GeneralFont).family();

@@ -2,13 +2,15 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 bool boolFromText(const QString& text) {
     bool isNumber = false;
     const double number = text.trimmed().toDouble(&isNumber);
     if (isNumber)
         return number != 0;
     for (const bool value : {false, true})
-        if (text.compare(value ? QLatin1String("true") : QLatin1String("false"), Qt::CaseInsensitive) == 0)
+        if (text.compare(value ? "true"_L1 : "false"_L1, Qt::CaseInsensitive) == 0)
             return value;
-    throw std::invalid_argument(QStringLiteral("'%1' is not a valid boolean value").arg(text).toStdString());
+    throw std::invalid_argument(u"'%1' is not a valid boolean value"_s.arg(text).toStdString());
 }

@@ -4,6 +4,8 @@
 
 #include <cmath>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString grouped(QString digits) {
@@ -25,19 +27,19 @@ QString withoutNegativeZero(const QString& number) {
 QString NormalizeDecimal(const QString& text) {
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty())
-        return QStringLiteral("0");
+        return u"0"_s;
     return QString(trimmed).replace(u',', u'.');
 }
 
 QString groupedInteger(double value) {
     if (!std::isfinite(value))
-        return QStringLiteral("0");
+        return u"0"_s;
     return grouped(withoutNegativeZero(QString::number(std::nearbyint(value), 'f', 0)));
 }
 
 QString groupedTwoDecimals(double value) {
     if (!std::isfinite(value))
-        return QStringLiteral("0,00");
+        return u"0,00"_s;
     const QString number = withoutNegativeZero(QString::number(value, 'f', 2));
     return grouped(number.left(number.size() - 3)) + u',' + number.right(2);
 }

@@ -1,8 +1,10 @@
 #include "toolkit/text/sql_text.h"
 
+using namespace Qt::StringLiterals;
+
 QString EscapeSqlText(const QString& text) {
     QString inner = text;
-    inner.replace(u'\\', QStringLiteral("\\\\")).replace(u'\'', QStringLiteral("''"));
+    inner.replace(u'\\', u"\\\\"_s).replace(u'\'', u"''"_s);
     return u'\'' + inner + u'\'';
 }
 
@@ -13,7 +15,7 @@ QString quotedSqlText(const QString& text) {
     qsizetype run = 0;
     for (const QChar c : text) {
         if (c == u'\'') {
-            out += run % 2 ? QStringLiteral("\\''") : QStringLiteral("''");
+            out += run % 2 ? u"\\''"_s : u"''"_s;
             run = 0;
             continue;
         }

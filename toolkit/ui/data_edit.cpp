@@ -6,6 +6,8 @@
 #include <QRegularExpressionValidator>
 #include <QSignalBlocker>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// Whatever can change what a bound edit shows.
@@ -32,7 +34,7 @@ void DataEdit::bind(data::DataSet& set, const QString& field) {
 }
 
 void DataEdit::acceptDigitsOnly() {
-    setValidator(new QRegularExpressionValidator(QRegularExpression(QStringLiteral("[0-9]{0,9}")), this));
+    setValidator(new QRegularExpressionValidator(QRegularExpression(u"[0-9]{0,9}"_s), this));
 }
 
 void DataEdit::showValue() {

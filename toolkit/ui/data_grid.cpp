@@ -14,6 +14,8 @@
 
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// What a cell takes beside its text, in pixels.
@@ -125,7 +127,7 @@ void DataGrid::toggle(int column) {
         return;
     const GridColumn& tick = *columns()[std::size_t(column)];
     const bool ticked = data::integerOf(m_model->valueAt(dataSet()->row(), column)) == -1;
-    const QString text = ticked ? QStringLiteral("0") : QStringLiteral("-1");
+    const QString text = ticked ? u"0"_s : u"-1"_s;
     dataSet()->editValue(tick.field(), text.toInt());
     Q_EMIT toggled(tick.field(), text);
     dataSet()->post();

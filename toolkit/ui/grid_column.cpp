@@ -4,6 +4,8 @@
 #include "toolkit/text/number_text.h"
 #include "toolkit/ui/plain_text.h"
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QString plainText(const QVariant& value) {
@@ -58,9 +60,9 @@ QString GridColumn::displayText(const QVariant& value) const {
     case Show::Factor:
         return groupedUpToTwoDecimals(data::realOf(value));
     case Show::Date:
-        return data::dateOf(value).toString(QStringLiteral("dd/MM/yyyy"));
+        return data::dateOf(value).toString(u"dd/MM/yyyy"_s);
     case Show::Moment:
-        return data::momentOf(value).toString(QStringLiteral("dd/MM/yyyy HH:mm"));
+        return data::momentOf(value).toString(u"dd/MM/yyyy HH:mm"_s);
     case Show::Tick:
         return {};
     case Show::Plain:

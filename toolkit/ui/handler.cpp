@@ -4,6 +4,8 @@
 #include "toolkit/ui/lookup_box.h"
 #include "toolkit/ui/message_dialog.h"
 
+using namespace Qt::StringLiterals;
+
 void showFault(QWidget* screen, const std::exception& fault) {
     ActionRefusal::note();
     // A statement that somebody has stopped is nothing to be alarmed at.
@@ -12,9 +14,9 @@ void showFault(QWidget* screen, const std::exception& fault) {
     MessageDialog dialog(isStopped ? MessageKind::Information : MessageKind::Error, nullptr);
     dialog.setButtonCount(1);
     // Nobody can translate what the server or the library says, so the title names the program and no language.
-    dialog.setCaption(QStringLiteral("Orvane Payroll"));
+    dialog.setCaption(u"Orvane Payroll"_s);
     const QString form = screen ? screen->objectName() : QString();
-    dialog.execute(screen, {form, QStringLiteral("fault"), QString::fromUtf8(fault.what())});
+    dialog.execute(screen, {form, u"fault"_s, QString::fromUtf8(fault.what())});
 }
 
 void finishTyping(const QWidget& screen) {

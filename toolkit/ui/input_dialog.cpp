@@ -8,9 +8,10 @@
 
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 InputDialog::InputDialog(QString caption, QString prompt, QObject* parent) :
-    QObject(parent),
-    m_caption(std::move(caption)), m_texts{std::move(prompt), QStringLiteral("OK"), QStringLiteral("Cancel")} {}
+    QObject(parent), m_caption(std::move(caption)), m_texts{std::move(prompt), u"OK"_s, u"Cancel"_s} {}
 
 void InputDialog::setText(int index, const QString& caption) {
     if (index >= 0 && index < m_texts.size())

@@ -14,6 +14,8 @@
 #include <algorithm>
 #include <array>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr std::array confirmationResults{MessageOk, MessageCancel, MessageLanguage};
@@ -40,19 +42,19 @@ QStyle::StandardPixmap iconOf(MessageKind kind) {
 QString defaultCaption(MessageKind kind) {
     switch (kind) {
     case MessageKind::Confirmation:
-        return QStringLiteral("Konfirmasi");
+        return u"Konfirmasi"_s;
     case MessageKind::Error:
-        return QStringLiteral("Kesalahan");
+        return u"Kesalahan"_s;
     case MessageKind::Information:
         break;
     }
-    return QStringLiteral("Informasi");
+    return u"Informasi"_s;
 }
 
 QStringList defaultButtons(MessageKind kind) {
     if (kind == MessageKind::Confirmation)
-        return {QStringLiteral("OK"), QStringLiteral("Cancel"), QStringLiteral("Language")};
-    return {QStringLiteral("OK"), QStringLiteral("Language")};
+        return {u"OK"_s, u"Cancel"_s, u"Language"_s};
+    return {u"OK"_s, u"Language"_s};
 }
 
 } // namespace
@@ -85,7 +87,7 @@ MessageWindow::MessageWindow(MessageKind kind, const Message& message, QWidget* 
     const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
     icon->setPixmap(style()->standardIcon(iconOf(kind)).pixmap(size, size));
     auto* text = new QLabel(readable(message.text));
-    text->setObjectName(QStringLiteral("lbl_pesan"));
+    text->setObjectName(u"lbl_pesan"_s);
     text->setTextFormat(Qt::PlainText);
     text->setWordWrap(true);
     // The shown text has places to break in it that nobody wants to copy.

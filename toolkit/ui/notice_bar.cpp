@@ -12,6 +12,8 @@
 #include <algorithm>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QWidget* hostOf(const QWidget& screen) {
@@ -49,14 +51,13 @@ NoticeBar* NoticeBar::atActionOf(const QWidget& screen) {
 }
 
 NoticeBar::NoticeBar(QWidget& host) :
-    QFrame(&host), m_label(new DataLabel), m_droppedLabel(new DataLabel),
-    m_button(newButton(QStringLiteral("btn_notice"), {})) {
-    setObjectName(QStringLiteral("pnl_notice"));
-    m_label->setObjectName(QStringLiteral("lbl_notice"));
-    m_droppedLabel->setObjectName(QStringLiteral("lbl_notice_dropped"));
+    QFrame(&host), m_label(new DataLabel), m_droppedLabel(new DataLabel), m_button(newButton(u"btn_notice"_s, {})) {
+    setObjectName(u"pnl_notice"_s);
+    m_label->setObjectName(u"lbl_notice"_s);
+    m_droppedLabel->setObjectName(u"lbl_notice_dropped"_s);
     for (DataLabel* label : {m_label, m_droppedLabel})
         label->setElideMode(Qt::ElideRight);
-    QToolButton* close = newButton(QStringLiteral("btn_notice_close"), QStringLiteral("✕"));
+    QToolButton* close = newButton(u"btn_notice_close"_s, u"✕"_s);
     connect(m_button, &QToolButton::clicked, this, [this] { showingFaults(window(), m_notice.more); });
     connect(close, &QToolButton::clicked, this, [this] {
         m_isOld = true;
@@ -108,7 +109,7 @@ void NoticeBar::display() {
     m_label->setText(m_notice.text);
     m_label->setHidden(m_notice.text.isEmpty());
     // The number stands in front: the end of the words may not fit.
-    const QString further = m_furtherDropped > 0 ? QStringLiteral("(+%1) ").arg(m_furtherDropped) : QString();
+    const QString further = m_furtherDropped > 0 ? u"(+%1) "_s.arg(m_furtherDropped) : QString();
     m_droppedLabel->setText(further + m_dropped);
     m_droppedLabel->setHidden(m_dropped.isEmpty());
     m_button->setText(m_notice.moreCaption);

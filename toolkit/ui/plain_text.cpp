@@ -2,6 +2,8 @@
 
 #include <QTextBoundaryFinder>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr qsizetype mostCharacters = 1200;
@@ -38,5 +40,5 @@ QString readable(const QString& text) {
 }
 
 QString plainToolTip(const QString& text) {
-    return text.isEmpty() ? QString() : QStringLiteral("<qt>%1</qt>").arg(readable(text).toHtmlEscaped());
+    return text.isEmpty() ? QString() : u"<qt>%1</qt>"_s.arg(readable(text).toHtmlEscaped());
 }

@@ -4,6 +4,8 @@
 
 #include <QPainter>
 
+using namespace Qt::StringLiterals;
+
 StatusPanels::StatusPanels(QWidget* parent) : QStatusBar(parent) {
     QPalette palette = this->palette();
     palette.setColor(QPalette::Window, QColor(0xe4, 0xe9, 0xed));
@@ -17,7 +19,7 @@ void StatusPanels::setPanelCount(int count) {
     m_panels.clear();
     for (int i = 0; i < count; ++i) {
         auto* panel = new DataLabel;
-        panel->setObjectName(QStringLiteral("panel_%1").arg(i));
+        panel->setObjectName(u"panel_%1"_s.arg(i));
         // Without this a long text would take width from its neighbours.
         panel->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
         panel->setMargin(3);

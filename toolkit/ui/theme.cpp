@@ -12,6 +12,8 @@
 #include <initializer_list>
 #include <utility>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 QPalette lightPalette() {
@@ -99,7 +101,7 @@ protected:
 } // namespace
 
 void applyTheme(QApplication& application) {
-    QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
+    QApplication::setStyle(QStyleFactory::create(u"Fusion"_s));
     QApplication::setPalette(lightPalette());
     application.installEventFilter(new DateRoom(&application));
     application.installEventFilter(new MarkedLooks(&application));

@@ -4,12 +4,14 @@
 #include <QLabel>
 #include <QPushButton>
 
+using namespace Qt::StringLiterals;
+
 WaitPanel::WaitPanel(const Texts& texts, QWidget* window) :
     QFrame(window), m_texts(texts), lbl_tunggu(new QLabel), btn_batal_tunggu(new QPushButton(texts.cancel)) {
-    setObjectName(QStringLiteral("pnl_tunggu"));
-    lbl_tunggu->setObjectName(QStringLiteral("lbl_tunggu"));
+    setObjectName(u"pnl_tunggu"_s);
+    lbl_tunggu->setObjectName(u"lbl_tunggu"_s);
     lbl_tunggu->setTextFormat(Qt::PlainText);
-    btn_batal_tunggu->setObjectName(QStringLiteral("btn_batal_tunggu"));
+    btn_batal_tunggu->setObjectName(u"btn_batal_tunggu"_s);
     setFrameStyle(QFrame::StyledPanel | QFrame::Raised);
     setAutoFillBackground(true);
     // A click must not end what is being entered elsewhere.
@@ -24,7 +26,7 @@ WaitPanel::WaitPanel(const Texts& texts, QWidget* window) :
 }
 
 void WaitPanel::showSeconds(qint64 seconds) {
-    lbl_tunggu->setText(QStringLiteral("%1 %2 %3").arg(m_texts.text, QString::number(seconds), m_texts.seconds));
+    lbl_tunggu->setText(u"%1 %2 %3"_s.arg(m_texts.text, QString::number(seconds), m_texts.seconds));
     adjustSize();
     move(parentWidget()->rect().center() - rect().center());
     show();

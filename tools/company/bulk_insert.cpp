@@ -4,6 +4,8 @@
 
 #include <QDateTime>
 
+using namespace Qt::StringLiterals;
+
 namespace company {
 
 namespace {
@@ -38,7 +40,7 @@ void BulkInsert::put(QDate date) {
 }
 
 void BulkInsert::put(const QDateTime& moment) {
-    putToken('\'' + moment.toString(QStringLiteral("yyyy-MM-dd HH:mm")).toLatin1() + '\'');
+    putToken('\'' + moment.toString(u"yyyy-MM-dd HH:mm"_s).toLatin1() + '\'');
 }
 
 void BulkInsert::put(Hours hours) {

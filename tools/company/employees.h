@@ -14,7 +14,7 @@ struct Options {
     int months = 3;
     QDate lastMonth = QDate::currentDate().addMonths(-1); ///< any day of the last month with attendance
     quint64 seed = 1;
-    QString language = QStringLiteral("indonesia"); ///< a language column of the texts
+    QString language = QString::fromUtf16(u"indonesia"); ///< a language column of the texts
 };
 
 /// The days that hold attendance.

@@ -8,6 +8,8 @@
 #include "tools/company/salary.h"
 #include "tools/company/texts.h"
 
+using namespace Qt::StringLiterals;
+
 namespace company {
 
 namespace {
@@ -50,7 +52,7 @@ bool exists(const db::ConnectionSettings& settings) {
     db::Connection connection;
     connection.configure(applicationSettings(settings));
     try {
-        return connection.query(QStringLiteral("SELECT param_id FROM global_setting LIMIT 1")).rowCount() > 0;
+        return connection.query(u"SELECT param_id FROM global_setting LIMIT 1"_s).rowCount() > 0;
     } catch (const db::Fault& fault) {
         constexpr unsigned unknownDatabase = 1049;
         constexpr unsigned noSuchTable = 1146;
@@ -63,8 +65,8 @@ bool exists(const db::ConnectionSettings& settings) {
 void setLanguage(const db::ConnectionSettings& settings, const QString& language) {
     db::Connection app;
     app.configure(applicationSettings(settings));
-    app.execute(QStringLiteral("UPDATE global_setting SET param_value=%1 WHERE param_id=%2")
-                    .arg(EscapeSqlText(language), EscapeSqlText(QString(setting::defaultLang))));
+    app.execute(u"UPDATE global_setting SET param_value=%1 WHERE param_id=%2"_s.arg(
+        EscapeSqlText(language), EscapeSqlText(QString(schema::defaultLang))));
 }
 
 } // namespace company

@@ -4,6 +4,8 @@
 
 #include <stdexcept>
 
+using namespace Qt::StringLiterals;
+
 // The function behind the macro is global.
 static void loadResources() {
     Q_INIT_RESOURCE(schema);
@@ -14,7 +16,7 @@ namespace company {
 namespace {
 
 QString quotedName(const QString& name) {
-    return u'`' + QString(name).replace(u'`', QStringLiteral("``")) + u'`';
+    return u'`' + QString(name).replace(u'`', u"``"_s) + u'`';
 }
 
 void executeOnServer(db::ConnectionSettings settings, const QString& command) {
@@ -34,7 +36,7 @@ void executeFile(db::Connection& connection, const QString& path) {
 }
 
 void installOne(const db::ConnectionSettings& settings, const QStringList& files) {
-    executeOnServer(settings, QStringLiteral("CREATE DATABASE %1 CHARACTER SET utf8mb4 COLLATE utf8mb4_general_ci"));
+    executeOnServer(settings, u"CREATE DATABASE %1 CHARACTER SET utf8mb4 COLLATE utf8mb4_general_ci"_s);
     db::Connection connection;
     connection.configure(settings);
     for (const QString& file : files)
@@ -44,25 +46,25 @@ void installOne(const db::ConnectionSettings& settings, const QStringList& files
 } // namespace
 
 db::ConnectionSettings applicationSettings(db::ConnectionSettings main) {
-    main.database += QStringLiteral("_app");
+    main.database += u"_app"_s;
     return main;
 }
 
 QStringList statementsOf(const QString& sql) {
-    QStringList statements = sql.split(QStringLiteral(";\n"), Qt::SkipEmptyParts);
+    QStringList statements = sql.split(u";\n"_s, Qt::SkipEmptyParts);
     statements.removeIf([](const QString& statement) { return statement.trimmed().isEmpty(); });
     return statements;
 }
 
 void install(const db::ConnectionSettings& settings) {
     loadResources();
-    installOne(settings, {QStringLiteral(":/schema/main.sql"), QStringLiteral(":/schema/catalogue.sql")});
-    installOne(applicationSettings(settings), {QStringLiteral(":/schema/app.sql")});
+    installOne(settings, {u":/schema/main.sql"_s, u":/schema/catalogue.sql"_s});
+    installOne(applicationSettings(settings), {u":/schema/app.sql"_s});
 }
 
 void uninstall(const db::ConnectionSettings& settings) {
     for (const db::ConnectionSettings& one : {settings, applicationSettings(settings)})
-        executeOnServer(one, QStringLiteral("DROP DATABASE IF EXISTS %1"));
+        executeOnServer(one, u"DROP DATABASE IF EXISTS %1"_s);
 }
 
 } // namespace company

@@ -1,4 +1,4 @@
-#include "frame/settings_file/settings_file.h"
+#include "base/settings_file/settings_file.h"
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
@@ -8,6 +8,8 @@
 #include <iostream>
 #include <stdexcept>
 #include <string>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -48,18 +50,18 @@ quint16 portNumber(const QString& text) {
 }
 
 settings::DatabaseSettings settingsFrom(const QCommandLineParser& parser) {
-    settings::DatabaseSettings given{.user = filled(parser, QStringLiteral("user")),
-                                     .server = filled(parser, QStringLiteral("server")),
-                                     .password = required(parser, QStringLiteral("password")),
-                                     .database = filled(parser, QStringLiteral("database")),
-                                     .port = portNumber(required(parser, QStringLiteral("port")))};
+    settings::DatabaseSettings given{.user = filled(parser, u"user"_s),
+                                     .server = filled(parser, u"server"_s),
+                                     .password = required(parser, u"password"_s),
+                                     .database = filled(parser, u"database"_s),
+                                     .port = portNumber(required(parser, u"port"_s))};
     if (given.password == u"-")
         given.password = standardInputLine();
     return given;
 }
 
 QString groupFrom(const QCommandLineParser& parser) {
-    const QString name = QStringLiteral("group");
+    const QString name = u"group"_s;
     return parser.isSet(name) ? filled(parser, name) : QString();
 }
 
@@ -71,29 +73,29 @@ void show(const QString& path) {
 }
 
 void addOptions(QCommandLineParser& parser) {
-    parser.setApplicationDescription(QStringLiteral("Writes or shows the file with the database settings."));
+    parser.setApplicationDescription(u"Writes or shows the file with the database settings."_s);
     parser.addHelpOption();
-    parser.addPositionalArgument(QStringLiteral("FILE"), QStringLiteral("The settings file, user.tvk as a rule."));
+    parser.addPositionalArgument(u"FILE"_s, u"The settings file, user.tvk as a rule."_s);
     parser.addOptions({
-        {QStringLiteral("user"), QStringLiteral("Database user."), QStringLiteral("U")},
-        {QStringLiteral("server"), QStringLiteral("Host name or dotted address."), QStringLiteral("S")},
-        {QStringLiteral("password"), QStringLiteral("Password; - reads it from standard input."), QStringLiteral("P")},
-        {QStringLiteral("database"), QStringLiteral("Main database."), QStringLiteral("D")},
-        {QStringLiteral("port"), QStringLiteral("Port of the server."), QStringLiteral("N")},
-        {QStringLiteral("group"), QStringLiteral("Only members of this group may read the file."), QStringLiteral("G")},
-        {QStringLiteral("show"), QStringLiteral("Show the fields, the password hidden; a foreign field reads aaa.")},
+        {u"user"_s, u"Database user."_s, u"U"_s},
+        {u"server"_s, u"Host name or dotted address."_s, u"S"_s},
+        {u"password"_s, u"Password; - reads it from standard input."_s, u"P"_s},
+        {u"database"_s, u"Main database."_s, u"D"_s},
+        {u"port"_s, u"Port of the server."_s, u"N"_s},
+        {u"group"_s, u"Only members of this group may read the file."_s, u"G"_s},
+        {u"show"_s, u"Show the fields, the password hidden; a foreign field reads aaa."_s},
     });
 }
 
 void run(QCommandLineParser& parser) {
     if (!parser.parse(QCoreApplication::arguments()))
         throw UsageError(parser.errorText().toStdString());
-    if (parser.isSet(QStringLiteral("help")))
+    if (parser.isSet(u"help"_s))
         parser.showHelp();
     if (parser.positionalArguments().size() != 1)
         throw UsageError("exactly one FILE is needed");
     const QString path = parser.positionalArguments().constFirst();
-    if (!parser.isSet(QStringLiteral("show")))
+    if (!parser.isSet(u"show"_s))
         settings::writeSettingsFile(path, settingsFrom(parser), groupFrom(parser));
     else if (parser.optionNames().size() == 1)
         show(path);

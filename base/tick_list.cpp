@@ -1,0 +1,76 @@
+#include "base/tick_list.h"
+
+#include <QScopeGuard>
+
+namespace base {
+
+namespace {
+
+constexpr int ticked = -1;
+
+bool isTicked(const data::DataSet& list) {
+    return list.integer(u"pilih") == ticked;
+}
+
+int wishedTick(TickWish wish, bool isTickedNow) {
+    switch (wish) {
+    case TickWish::All:
+        return ticked;
+    case TickWish::None:
+        return 0;
+    case TickWish::Invert:
+        break;
+    }
+    return isTickedNow ? 0 : ticked;
+}
+
+} // namespace
+
+void setTicks(data::DataSet& list, TickWish wish, const TickToggled& toggled) {
+    const data::ViewsOff off(list);
+    const int row = list.row();
+    for (list.first(); !list.isEof(); list.next()) {
+        const int tick = wishedTick(wish, isTicked(list));
+        list.edit();
+        list.setValue(u"pilih", tick);
+        if (toggled)
+            toggled(QString::number(tick));
+        list.post();
+    }
+    list.goToRow(row);
+}
+
+void forEachTicked(data::DataSet& list, const std::function<void()>& action) {
+    const data::ViewsOff off(list);
+    const int row = list.row();
+    const auto goBack = qScopeGuard([&] { list.goToRow(row); });
+    for (list.first(); !list.isEof(); list.next())
+        if (isTicked(list))
+            action();
+}
+
+bool goToOnlyTicked(data::DataSet& list, Messages& messages, QWidget* screen, const MessageText& several) {
+    if (list.isEmpty())
+        return false;
+    int count = 0;
+    int row = 0;
+    forEachTicked(list, [&] {
+        ++count;
+        row = list.row();
+    });
+    if (count > 1)
+        messages.inform(screen, several);
+    if (count == 1)
+        list.goToRow(row);
+    return count == 1;
+}
+
+bool askForTicked(data::DataSet& list, Messages& messages, QWidget* screen, const MessageText& question,
+                  const std::function<void()>& action) {
+    if (list.isEmpty() || !messages.confirm(screen, question))
+        return false;
+    forEachTicked(list, action);
+    return true;
+}
+
+} // namespace base

@@ -1,0 +1,89 @@
+#include "frame/recap_colours.h"
+
+#include "schema/settings_keys.h"
+#include "toolkit/fault/drop_fault.h"
+#include "toolkit/text/bool_text.h"
+#include "toolkit/ui/colour_text.h"
+
+#include <array>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace frame::recap {
+
+namespace {
+
+QString valueOf(base::Session& session, QLatin1String key) {
+    session.sql_temp_lang.openSql(u"Select * from global_setting where param_id='"_s + key + u"' "_s);
+    return session.sql_temp_lang.text(u"param_value"_s);
+}
+
+constexpr std::pair<QLatin1String, bool ColourSettings::*> flags[] = {
+    {schema::clTerlambatSet, &ColourSettings::cl_terlambat_set},
+    {schema::clCepatSet, &ColourSettings::cl_cepat_set},
+    {schema::clAbsenSet, &ColourSettings::cl_absen_set},
+    {schema::clAbsenIzinSet, &ColourSettings::cl_absen_izin_set},
+    {schema::clLiburSet, &ColourSettings::cl_libur_set},
+    {schema::clTampilGridSet, &ColourSettings::cl_tampil_grid_set},
+    {schema::clTampilCetakSet, &ColourSettings::cl_tampil_cetak_set},
+};
+
+constexpr std::pair<QLatin1String, QColor ColourSettings::*> colours[] = {
+    {schema::clTerlambat, &ColourSettings::cl_terlambat}, {schema::clCepat, &ColourSettings::cl_cepat},
+    {schema::clAbsen, &ColourSettings::cl_absen},         {schema::clAbsenIzin, &ColourSettings::cl_absen_izin},
+    {schema::clLibur, &ColourSettings::cl_libur},
+};
+
+enum class Coloured { FromOne, AtZero };
+
+struct ColourRule {
+    QLatin1String column;
+    Coloured when;
+    bool ColourSettings::*flag;
+    QColor ColourSettings::*colour;
+};
+
+// Every kind of absence follows the flag of leaving early: the suite offers one switch for all of them.
+constexpr std::array rules{
+    ColourRule{"dbg_rekaplate"_L1, Coloured::FromOne, &ColourSettings::cl_terlambat_set, &ColourSettings::cl_terlambat},
+    ColourRule{"dbg_rekapearly"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_cepat},
+    ColourRule{"dbg_rekapkehadiran"_L1, Coloured::AtZero, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen},
+    ColourRule{"dbg_rekaptidak_hadir"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen},
+    ColourRule{"dbg_rekapizin"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen_izin},
+    ColourRule{"dbg_rekapcuti"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen_izin},
+    ColourRule{"dbg_rekapsakit"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen_izin},
+    ColourRule{"dbg_rekaplibur"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_libur},
+};
+
+} // namespace
+
+ColourSettings readColourSettings(base::Session& session) {
+    ColourSettings settings;
+    const auto read = [&](QLatin1String key, auto& field, auto fromText) {
+        fault::dropFault("pengaturan warna rekap", [&] {
+            // A key that is not there is no fault.
+            if (const QString value = valueOf(session, key); !value.isEmpty())
+                field = fromText(value);
+        });
+    };
+    for (const auto& [key, flag] : flags)
+        read(key, settings.*flag, boolFromText);
+    for (const auto& [key, colour] : colours)
+        read(key, settings.*colour, colourFromText);
+    return settings;
+}
+
+QColor cellColour(const ColourSettings& settings, const CellInView& cell) {
+    if (!settings.cl_tampil_grid_set)
+        return {};
+    for (const ColourRule& rule : rules) {
+        if (cell.column.objectName() != rule.column || !(settings.*rule.flag))
+            continue;
+        const qint64 value = data::integerOf(cell.value);
+        return (rule.when == Coloured::AtZero ? value == 0 : value >= 1) ? settings.*rule.colour : QColor();
+    }
+    return {};
+}
+
+} // namespace frame::recap
