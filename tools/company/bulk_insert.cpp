@@ -10,7 +10,7 @@ namespace company {
 
 namespace {
 
-constexpr qsizetype fullAt = 1000 * 1000;
+constexpr qsizetype fullAt = 1'000'000;
 
 } // namespace
 

@@ -35,7 +35,7 @@ QString required(const QCommandLineParser& parser, const QString& name) {
 }
 
 QString filled(const QCommandLineParser& parser, const QString& name) {
-    const QString value = required(parser, name);
+    QString value = required(parser, name);
     if (value.isEmpty())
         throw UsageError("--" + name.toStdString() + " must not be empty");
     return value;
