@@ -29,16 +29,16 @@ const QList<LoanType>& loanTypes() {
     return list;
 }
 
-LoanTerms termsFor(const LoanType& type, QDate granted, Dice& dice) {
+loans::LoanTerms termsFor(const LoanType& type, QDate granted, Dice& dice) {
     static constexpr double rates[] = {0, 0.5, 1, 1.25, 1.5};
     static constexpr int terms[] = {6, 10, 12, 18, 24};
     static constexpr int units[] = {100, 500, 1000};
-    return {.interest = dice.chance(600) ? LoanTerms::Flat : LoanTerms::Sliding,
-            .amount = dice.between(type.lowest * 4, type.highest * 4) * 250000,
-            .percentPerMonth = dice.pick(rates),
-            .months = dice.pick(terms),
-            .roundTo = dice.pick(units),
-            .firstDue = granted.addMonths(1)};
+    return {.cara_hitung = dice.chance(600) ? loans::CaraHitung::FlatRate : loans::CaraHitung::SlidingRate,
+            .saldo_aw = dice.between(type.lowest * 4, type.highest * 4) * 250000.0,
+            .suku_bunga = dice.pick(rates),
+            .periode_bulan = dice.pick(terms),
+            .def_pembulatan = dice.pick(units),
+            .angs_pertama = granted.addMonths(1)};
 }
 
 // Days. Every sixth loan is too young for an instalment, every fifth old enough to be paid off.
@@ -50,7 +50,7 @@ int ageOf(int id, Dice& dice) {
 
 int paidBy(QDate day, const Loan& loan) {
     const auto due =
-        std::ranges::count_if(loan.schedule.instalments, [day](const Instalment& one) { return one.due <= day; });
+        std::ranges::count_if(loan.schedule.rows, [day](const loans::Instalment& one) { return one.tgl_jt <= day; });
     return loan.id % 7 == 0 ? std::max(0, int(due) - 1) : int(due);
 }
 
@@ -66,13 +66,6 @@ void writeTypes(db::Connection& main, QDate day) {
     insert.finish();
 }
 
-double sum(const Schedule& schedule, int Instalment::*amount) {
-    double total = 0;
-    for (const Instalment& one : schedule.instalments)
-        total += one.*amount;
-    return total;
-}
-
 void writeHeaders(db::Connection& main, const std::vector<Loan>& loans) {
     BulkInsert insert(main,
                       "zx_kredit_m (id_kredit, no_kredit, tgl_kredit, emp_id_auto, krd_id, cara_hitung, tot_kredit, "
@@ -80,14 +73,14 @@ void writeHeaders(db::Connection& main, const std::vector<Loan>& loans) {
                       "tot_bunga, def_pembulatan, jumlah_piutang, approv_by, keterangan, status, status_lunas, "
                       "lastupdate_date, lastupdate_user)");
     for (const Loan& loan : loans) {
-        const LoanTerms& terms = loan.terms;
-        const Schedule& schedule = loan.schedule;
+        const loans::LoanTerms& terms = loan.terms;
+        const loans::Schedule& schedule = loan.schedule;
         const QString number = u"PJ/%1/%2"_s.arg(loan.granted.toString(u"yyyyMM")).arg(loan.id, 4, 10, '0'_L1);
-        insert.row(loan.id, number, loan.granted, loan.employee, loan.type, int(terms.interest), terms.amount,
-                   terms.amount, terms.percentPerMonth, terms.months, schedule.principalEach, terms.firstDue,
-                   sum(schedule, &Instalment::payment), sum(schedule, &Instalment::principal),
-                   sum(schedule, &Instalment::interest), terms.roundTo, schedule.receivable, u"Manajer SDM"_s, u""_s,
-                   Flag{loan.paid > 0}, Flag{loan.isPaidOff()}, recorded(loan.granted), u"payroll"_s);
+        insert.row(loan.id, number, loan.granted, loan.employee, loan.type, int(terms.cara_hitung), terms.saldo_aw,
+                   terms.saldo_aw, terms.suku_bunga, terms.periode_bulan, schedule.angs_pokok, terms.angs_pertama,
+                   schedule.tot_debet, schedule.tot_angs_pokok, schedule.tot_bunga, terms.def_pembulatan,
+                   schedule.jumlah_piutang, u"Manajer SDM"_s, u""_s, Flag{loan.paid > 0}, Flag{loan.isPaidOff()},
+                   recorded(loan.granted), u"payroll"_s);
     }
     insert.finish();
 }
@@ -97,10 +90,10 @@ void writeSchedules(db::Connection& main, const std::vector<Loan>& loans) {
                             "proses_bayar, keterangan)");
     for (const Loan& loan : loans) {
         int place = 0;
-        for (const Instalment& one : loan.schedule.instalments) {
+        for (const loans::Instalment& one : loan.schedule.rows) {
             ++place;
-            insert.row(loan.id, place, one.due, one.balanceBefore, one.payment, one.principal, one.interest,
-                       one.balanceAfter, Flag{place <= loan.paid}, u""_s);
+            insert.row(loan.id, place, one.tgl_jt, one.saldo_aw, one.debet, one.angs_pokok, one.bunga, one.saldo_akh,
+                       Flag{place <= loan.paid}, u""_s);
         }
     }
     insert.finish();
@@ -110,7 +103,7 @@ struct Payment {
     const Loan* loan;
     int place;
 
-    [[nodiscard]] const Instalment& instalment() const { return loan->schedule.instalments[size_t(place - 1)]; }
+    [[nodiscard]] const loans::Instalment& instalment() const { return loan->schedule.rows[size_t(place - 1)]; }
 };
 
 // In the order in which the days brought them.
@@ -119,7 +112,7 @@ std::vector<Payment> paymentsOf(const std::vector<Loan>& loans) {
     for (const Loan& loan : loans)
         for (int place = 1; place <= loan.paid; ++place)
             payments.push_back({&loan, place});
-    std::ranges::stable_sort(payments, {}, [](const Payment& one) { return one.instalment().due; });
+    std::ranges::stable_sort(payments, {}, [](const Payment& one) { return one.instalment().tgl_jt; });
     return payments;
 }
 
@@ -129,9 +122,9 @@ void writePayments(db::Connection& main, const std::vector<Loan>& loans) {
                       "emp_id_auto, keterangan, status, lastupdate_date, lastupdate_user)");
     int id = 0;
     for (const Payment& payment : paymentsOf(loans)) {
-        const Instalment& one = payment.instalment();
-        insert.row(++id, one.due, payment.loan->id, payment.place, one.due, one.payment, one.principal, one.interest,
-                   payment.loan->employee, u""_s, Flag{payment.loan->isPaidOff()}, recorded(one.due), u"payroll"_s);
+        const loans::Instalment& one = payment.instalment();
+        insert.row(++id, one.tgl_jt, payment.loan->id, payment.place, one.tgl_jt, one.debet, one.angs_pokok, one.bunga,
+                   payment.loan->employee, u""_s, Flag{payment.loan->isPaidOff()}, recorded(one.tgl_jt), u"payroll"_s);
     }
     insert.finish();
 }
@@ -152,8 +145,8 @@ std::vector<Loan> makeLoans(const std::vector<Employee>& employees, const Option
         loan.granted = std::max(employee.begin, period.last.addDays(-ageOf(loan.id, dice)));
         loan.terms = termsFor(loanTypes()[loan.type - 1], loan.granted, dice);
         if (loan.id % 5 == 0)
-            loan.terms.months = 6;
-        loan.schedule = scheduleOf(loan.terms);
+            loan.terms.periode_bulan = 6;
+        loan.schedule = loans::scheduleOf(loan.terms);
         loan.paid = paidBy(period.last, loan);
     }
     return loans;

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "loans/schedule/schedule.h"
 #include "tools/company/employees.h"
-#include "tools/company/loan_schedule.h"
 
 namespace company {
 
@@ -10,11 +10,11 @@ struct Loan {
     int type = 0; ///< krd_id
     int employee = 0;
     QDate granted;
-    LoanTerms terms;
-    Schedule schedule;
+    loans::LoanTerms terms;
+    loans::Schedule schedule;
     int paid = 0; ///< the first so many instalments are paid, each on its due date
 
-    [[nodiscard]] bool isPaidOff() const { return paid == int(schedule.instalments.size()); }
+    [[nodiscard]] bool isPaidOff() const { return paid == int(schedule.rows.size()); }
 };
 
 /// Every fourth active employee has a loan, granted within the last thirteen months; instalments are paid up to the end
