@@ -1,5 +1,6 @@
 #include "base/screen.h"
 
+#include "base/activation.h"
 #include "toolkit/ui/enter_key.h"
 #include "toolkit/ui/handler.h"
 
@@ -26,18 +27,11 @@ void Screen::keyPressEvent(QKeyEvent* event) {
 
 void Screen::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
-    if (!event->spontaneous())
-        resize(size().boundedTo(screen()->availableSize()));
-    if (!event->spontaneous())
-        QMetaObject::invokeMethod(
-            this,
-            [this] {
-                // One that could not be opened is of no use to anybody.
-                if (isVisible())
-                    runHandler(
-                        this, [this] { FormActivate(); }, [this] { done(Rejected); });
-            },
-            Qt::QueuedConnection);
+    if (event->spontaneous())
+        return;
+    resize(size().boundedTo(screen()->availableSize()));
+    base::queueActivation(
+        *this, [this] { FormActivate(); }, [this] { done(Rejected); });
 }
 
 void Screen::openModal(Screen& child) {

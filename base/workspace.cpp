@@ -1,5 +1,6 @@
 #include "base/workspace.h"
 
+#include "base/activation.h"
 #include "toolkit/ui/data_label.h"
 #include "toolkit/ui/enter_key.h"
 #include "toolkit/ui/handler.h"
@@ -22,16 +23,9 @@ Workspace::Workspace(base::Services& services, QWidget* parent) : QWidget(parent
 void Workspace::showEvent(QShowEvent* event) {
     QWidget::showEvent(event);
     Timer1.start();
-    if (event->spontaneous() || !std::exchange(m_firstActivation, false))
-        return;
-    QMetaObject::invokeMethod(
-        this,
-        [this] {
-            if (isVisible())
-                runHandler(
-                    this, [this] { FormActivate(); }, [this] { close(); });
-        },
-        Qt::QueuedConnection);
+    if (!event->spontaneous() && std::exchange(m_firstActivation, false))
+        base::queueActivation(
+            *this, [this] { FormActivate(); }, [this] { close(); });
 }
 
 void Workspace::closeEvent(QCloseEvent* event) {
