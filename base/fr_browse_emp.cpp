@@ -25,12 +25,12 @@ Tfrm_browse_emp::Tfrm_browse_emp(base::Services& services, BrowseMode mode, Hand
     m_baseSql(sql_emp.sql()) {
     m_ui->setupUi(this);
     m_ui->filter->attach(services.session);
-    m_ui->dbg_d->setColumns({{u"dbg_dpin"_s, u"pin"_s, u"PIN"_s},
-                             {u"dbg_dnik"_s, u"nik"_s, u"NIK"_s},
-                             {u"dbg_dnama"_s, u"nama"_s, u"Nama"_s},
-                             {u"dbg_dcab_name"_s, u"cab_name"_s, u"Cabang"_s},
-                             {u"dbg_dlevel_id"_s, u"level_id"_s, u"Departemen"_s},
-                             {u"dbg_dfunc_name"_s, u"func_name"_s, u"Jabatan"_s}});
+    m_ui->dbg_d->setColumns({{u"pin"_s, u"PIN"_s},
+                             {u"nik"_s, u"NIK"_s},
+                             {u"nama"_s, u"Nama"_s},
+                             {u"cab_name"_s, u"Cabang"_s},
+                             {u"level_id"_s, u"Departemen"_s},
+                             {u"func_name"_s, u"Jabatan"_s}});
     m_ui->dbg_d->setDataSet(&cds_emp);
     onEvent(m_ui->filter, &base::FilterBlock::searchWanted, this, &Tfrm_browse_emp::btn_cariClick);
     onEvent(m_ui->btn_ok, &QPushButton::clicked, this, &Tfrm_browse_emp::btn_okClick);

@@ -23,7 +23,7 @@ Tfrm_daftar::Tfrm_daftar(base::Services& services, base::TextList list, QWidget*
     setWindowTitle(m_list.caption);
     std::vector<ColumnPlan> columns;
     for (const auto& [field, caption] : m_list.columns)
-        columns.push_back({m_ui->dbg_daftar->objectName() + field, field, caption});
+        columns.push_back({field, caption});
     m_ui->dbg_daftar->setColumns(columns);
     m_ui->dbg_daftar->setDataSet(&vir_daftar);
     onEvent(m_ui->btn_salin, &QPushButton::clicked, this, &Tfrm_daftar::btn_salinClick);

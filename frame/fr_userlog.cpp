@@ -32,10 +32,10 @@ Tfrm_userlog::Tfrm_userlog(base::Services& services, QString login_id, int modul
         if(module=7, 'Penggajian', ''))))))) as nama_modul FROM user_log)")),
     m_baseSql(sql_userlog.sql()) {
     m_ui->setupUi(this);
-    m_ui->dbg_userlog->setColumns({{u"dbg_userloglog_date"_s, u"log_date"_s, u"Tanggal"_s, Show::Moment},
-                                   {u"dbg_userloglogin_id"_s, u"login_id"_s, u"User"_s},
-                                   {u"dbg_userlognama_modul"_s, u"nama_modul"_s, u"Modul"_s},
-                                   {u"dbg_userloglog_note"_s, u"log_note"_s, u"Keterangan"_s}});
+    m_ui->dbg_userlog->setColumns({{u"log_date"_s, u"Tanggal"_s, Show::Moment},
+                                   {u"login_id"_s, u"User"_s},
+                                   {u"nama_modul"_s, u"Modul"_s},
+                                   {u"log_note"_s, u"Keterangan"_s}});
     m_ui->dbg_userlog->setDataSet(&sql_userlog);
     m_ui->lookup_user->setSource(&sql_user, u"login_id"_s, u"login_id"_s);
     for (QDateEdit* picker : {m_ui->dtp_tgl_aw, m_ui->dtp_tgl_akh, m_ui->dtp_hapus})

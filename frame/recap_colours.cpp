@@ -38,7 +38,7 @@ constexpr std::pair<QLatin1String, QColor ColourSettings::*> colours[] = {
 enum class Coloured { FromOne, AtZero };
 
 struct ColourRule {
-    QLatin1String column;
+    QLatin1String field;
     Coloured when;
     bool ColourSettings::*flag;
     QColor ColourSettings::*colour;
@@ -46,14 +46,14 @@ struct ColourRule {
 
 // Every kind of absence follows the flag of leaving early: the suite offers one switch for all of them.
 constexpr std::array rules{
-    ColourRule{"dbg_rekaplate"_L1, Coloured::FromOne, &ColourSettings::cl_terlambat_set, &ColourSettings::cl_terlambat},
-    ColourRule{"dbg_rekapearly"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_cepat},
-    ColourRule{"dbg_rekapkehadiran"_L1, Coloured::AtZero, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen},
-    ColourRule{"dbg_rekaptidak_hadir"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen},
-    ColourRule{"dbg_rekapizin"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen_izin},
-    ColourRule{"dbg_rekapcuti"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen_izin},
-    ColourRule{"dbg_rekapsakit"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen_izin},
-    ColourRule{"dbg_rekaplibur"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_libur},
+    ColourRule{"late"_L1, Coloured::FromOne, &ColourSettings::cl_terlambat_set, &ColourSettings::cl_terlambat},
+    ColourRule{"early"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_cepat},
+    ColourRule{"kehadiran"_L1, Coloured::AtZero, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen},
+    ColourRule{"tidak_hadir"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen},
+    ColourRule{"izin"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen_izin},
+    ColourRule{"cuti"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen_izin},
+    ColourRule{"sakit"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_absen_izin},
+    ColourRule{"libur"_L1, Coloured::FromOne, &ColourSettings::cl_cepat_set, &ColourSettings::cl_libur},
 };
 
 } // namespace
@@ -78,7 +78,7 @@ QColor cellColour(const ColourSettings& settings, const CellInView& cell) {
     if (!settings.cl_tampil_grid_set)
         return {};
     for (const ColourRule& rule : rules) {
-        if (cell.column.objectName() != rule.column || !(settings.*rule.flag))
+        if (cell.column.field() != rule.field || !(settings.*rule.flag))
             continue;
         const qint64 value = data::integerOf(cell.value);
         return (rule.when == Coloured::AtZero ? value == 0 : value >= 1) ? settings.*rule.colour : QColor();

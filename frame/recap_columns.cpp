@@ -85,8 +85,7 @@ std::vector<ColumnPlan> columns() {
     std::vector<ColumnPlan> plans;
     for (const Band& band : layout())
         for (const Column& column : band.columns)
-            plans.push_back({.name = u"dbg_rekap"_s + text(column.field),
-                             .field = text(column.field),
+            plans.push_back({.field = text(column.field),
                              .caption = text(column.caption),
                              .hidden = column.hidden,
                              .band = text(band.name)});

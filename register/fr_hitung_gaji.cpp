@@ -47,11 +47,11 @@ QString selectDetails(int type) {
    where c.type=%1 and sd.process_id=:process_id and sd.emp_id_auto=:emp_id_auto order by c.no_urut)"_s.arg(type);
 }
 
-std::vector<ColumnPlan> detailColumns(const QString& grid) {
-    return {{grid + u"com_kode"_s, u"com_kode"_s, u"Kode"_s},
-            {grid + u"com_name"_s, u"com_name"_s, u"Nama komponen"_s},
-            {grid + u"subtot_payroll"_s, u"subtot_payroll"_s, u"Nilai uang"_s, Show::Money},
-            {grid + u"jml_faktor"_s, u"jml_faktor"_s, u"Faktor"_s, Show::Money}};
+std::vector<ColumnPlan> detailColumns() {
+    return {{u"com_kode"_s, u"Kode"_s},
+            {u"com_name"_s, u"Nama komponen"_s},
+            {u"subtot_payroll"_s, u"Nilai uang"_s, Show::Money},
+            {u"jml_faktor"_s, u"Faktor"_s, Show::Money}};
 }
 
 /// Each row rounded to whole rupiah; what cannot be read ends the sum.
@@ -86,25 +86,25 @@ Tfrm_hitung_gaji::Tfrm_hitung_gaji(base::Services& services, QWidget* parent) :
 Tfrm_hitung_gaji::~Tfrm_hitung_gaji() = default;
 
 void Tfrm_hitung_gaji::set_up() {
-    m_ui->dbg_m->setColumns({{u"dbg_mpilih"_s, u"pilih"_s, u"Pilih"_s, Show::Tick},
-                             {u"dbg_mprocess_name"_s, u"process_name"_s, u"Nama penggajian"_s},
-                             {u"dbg_mdate1"_s, u"date1"_s, u"Tgl. awal"_s, Show::Date},
-                             {u"dbg_mdate2"_s, u"date2"_s, u"Tgl. akhir"_s, Show::Date},
-                             {u"dbg_mround_value"_s, u"round_value"_s, u"Pecahan terkecil"_s, Show::Money},
-                             {u"dbg_mtot_process"_s, u"tot_process"_s, u" Total penggajian"_s, Show::Money},
-                             {u"dbg_mlastupdate_date"_s, u"lastupdate_date"_s, u"Log tanggal"_s, Show::Moment},
-                             {u"dbg_mlastupdate_user"_s, u"lastupdate_user"_s, u"Log user"_s},
-                             {u"dbg_mpayment_date"_s, u"payment_date"_s, u"Tgl. bayar"_s, Show::Date, true},
-                             {u"dbg_mcreate_by"_s, u"create_by"_s, u"Dibuat"_s, Show::Plain, true},
-                             {u"dbg_mcheck_by"_s, u"check_by"_s, u"Diperiksa"_s, Show::Plain, true},
-                             {u"dbg_mapprove_by"_s, u"approve_by"_s, u"Disetujui"_s, Show::Plain, true},
-                             {u"dbg_mprocess_id"_s, u"process_id"_s, u"process_id"_s, Show::Plain, true}});
-    m_ui->dbg_d->setColumns({{u"dbg_dpin"_s, u"pin"_s, u"PIN"_s},
-                             {u"dbg_dnik"_s, u"nik"_s, u"NIK"_s},
-                             {u"dbg_dnama"_s, u"nama"_s, u"Nama karyawan"_s},
-                             {u"dbg_dtot_payroll"_s, u"tot_payroll"_s, u"Jumlah gaji"_s, Show::Money}});
-    m_ui->dbg_sd->setColumns(detailColumns(u"dbg_sd"_s));
-    m_ui->dbg_sd2->setColumns(detailColumns(u"dbg_sd2"_s));
+    m_ui->dbg_m->setColumns({{u"pilih"_s, u"Pilih"_s, Show::Tick},
+                             {u"process_name"_s, u"Nama penggajian"_s},
+                             {u"date1"_s, u"Tgl. awal"_s, Show::Date},
+                             {u"date2"_s, u"Tgl. akhir"_s, Show::Date},
+                             {u"round_value"_s, u"Pecahan terkecil"_s, Show::Money},
+                             {u"tot_process"_s, u" Total penggajian"_s, Show::Money},
+                             {u"lastupdate_date"_s, u"Log tanggal"_s, Show::Moment},
+                             {u"lastupdate_user"_s, u"Log user"_s},
+                             {u"payment_date"_s, u"Tgl. bayar"_s, Show::Date, true},
+                             {u"create_by"_s, u"Dibuat"_s, Show::Plain, true},
+                             {u"check_by"_s, u"Diperiksa"_s, Show::Plain, true},
+                             {u"approve_by"_s, u"Disetujui"_s, Show::Plain, true},
+                             {u"process_id"_s, u"process_id"_s, Show::Plain, true}});
+    m_ui->dbg_d->setColumns({{u"pin"_s, u"PIN"_s},
+                             {u"nik"_s, u"NIK"_s},
+                             {u"nama"_s, u"Nama karyawan"_s},
+                             {u"tot_payroll"_s, u"Jumlah gaji"_s, Show::Money}});
+    m_ui->dbg_sd->setColumns(detailColumns());
+    m_ui->dbg_sd2->setColumns(detailColumns());
     m_ui->dbg_m->setDataSet(&cds_m);
     m_ui->dbg_d->setDataSet(&sql_d);
     m_ui->dbg_sd->setDataSet(&sql_sd);

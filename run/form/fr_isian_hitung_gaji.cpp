@@ -70,22 +70,22 @@ Tfrm_isian_hitung_gaji::Tfrm_isian_hitung_gaji(base::Services& services, RunForm
 Tfrm_isian_hitung_gaji::~Tfrm_isian_hitung_gaji() = default;
 
 void Tfrm_isian_hitung_gaji::set_up() {
-    m_ui->dbg_grp->setColumns({{u"dbg_grppilih"_s, u"pilih"_s, u"Pilih"_s, Show::Tick},
-                               {u"dbg_grpkode_grp"_s, u"kode_grp"_s, u"Kode group"_s},
-                               {u"dbg_grpgrp_name"_s, u"grp_name"_s, u"Nama group gaji"_s}});
-    m_ui->dbg_kom->setColumns({{u"dbg_kompilih"_s, u"pilih"_s, u"Pilih"_s, Show::Tick},
-                               {u"dbg_komcom_kode"_s, u"com_kode"_s, u"Kode"_s},
-                               {u"dbg_komcom_name"_s, u"com_name"_s, u"Nama komponen"_s},
-                               {u"dbg_komno_urut"_s, u"no_urut"_s, u"No urut"_s}});
-    m_ui->dbg_d->setColumns({{u"dbg_dpin"_s, u"pin"_s, u"PIN"_s},
-                             {u"dbg_dnik"_s, u"nik"_s, u"NIK"_s},
-                             {u"dbg_dnama"_s, u"nama"_s, u"Nama"_s},
-                             {u"dbg_dtot_payroll"_s, u"tot_payroll"_s, u"Jumlah gaji"_s, Show::Money}});
-    m_ui->dbg_sd->setColumns({{u"dbg_sdcom_kode"_s, u"com_kode"_s, u"Kode"_s},
-                              {u"dbg_sdcom_name"_s, u"com_name"_s, u"Nama komponen"_s},
-                              {u"dbg_sdjenis"_s, u"jenis"_s, u"+ / -"_s},
-                              {u"dbg_sdsubtot_payroll"_s, u"subtot_payroll"_s, u"Nilai uang"_s, Show::Money},
-                              {u"dbg_sdjml_faktor"_s, u"jml_faktor"_s, u"Faktor"_s, Show::Factor}});
+    m_ui->dbg_grp->setColumns({{u"pilih"_s, u"Pilih"_s, Show::Tick},
+                               {u"kode_grp"_s, u"Kode group"_s},
+                               {u"grp_name"_s, u"Nama group gaji"_s}});
+    m_ui->dbg_kom->setColumns({{u"pilih"_s, u"Pilih"_s, Show::Tick},
+                               {u"com_kode"_s, u"Kode"_s},
+                               {u"com_name"_s, u"Nama komponen"_s},
+                               {u"no_urut"_s, u"No urut"_s}});
+    m_ui->dbg_d->setColumns({{u"pin"_s, u"PIN"_s},
+                             {u"nik"_s, u"NIK"_s},
+                             {u"nama"_s, u"Nama"_s},
+                             {u"tot_payroll"_s, u"Jumlah gaji"_s, Show::Money}});
+    m_ui->dbg_sd->setColumns({{u"com_kode"_s, u"Kode"_s},
+                              {u"com_name"_s, u"Nama komponen"_s},
+                              {u"jenis"_s, u"+ / -"_s},
+                              {u"subtot_payroll"_s, u"Nilai uang"_s, Show::Money},
+                              {u"jml_faktor"_s, u"Faktor"_s, Show::Factor}});
     m_ui->dbg_grp->setDataSet(&cds_grp);
     m_ui->dbg_kom->setDataSet(&cds_komp);
     m_ui->dbg_d->setDataSet(&m_copy.cds_d);

@@ -25,9 +25,9 @@ protected:
             table.post();
         }
         table.first();
-        grid.setColumns({{.name = u"a"_s, .field = u"nama"_s, .caption = u"Nama"_s},
-                         {.name = u"b"_s, .field = u"nilai"_s, .caption = u"Nilai"_s, .editable = true},
-                         {.name = u"c"_s, .field = u"nilai"_s, .caption = u"Tersembunyi"_s, .hidden = true}});
+        grid.setColumns({{.field = u"nama"_s, .caption = u"Nama"_s},
+                         {.field = u"nilai"_s, .caption = u"Nilai"_s, .editable = true},
+                         {.field = u"nilai"_s, .caption = u"Tersembunyi"_s, .hidden = true}});
         grid.setDataSet(&table);
         grid.show();
     }
@@ -112,7 +112,7 @@ TEST_F(Grid, StaysWhereItWasScrolledToThroughAWalkThatComesBack) {
 
 TEST_F(Grid, CellsKeepTheirColourOnTheCurrentRow) {
     grid.setCellColour(
-        [](const CellInView& cell) { return cell.column.objectName() == u"b"_s ? QColor(Qt::yellow) : QColor(); });
+        [](const CellInView& cell) { return cell.column.field() == u"nilai"_s ? QColor(Qt::yellow) : QColor(); });
     grid.setCurrentIndex(grid.model()->index(0, 0));
     const QImage picture = grid.viewport()->grab().toImage();
     const auto colourAt = [&](int column) {
@@ -127,7 +127,7 @@ TEST(Bands, CaptionStandsOverThePartThatCanBeSeen) {
     DataGrid grid(&window);
     std::vector<ColumnPlan> columns;
     for (const auto& name : {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s})
-        columns.push_back({.name = name, .field = name, .caption = {}, .band = u"lebar"_s});
+        columns.push_back({.field = name, .caption = {}, .band = u"lebar"_s});
     grid.setColumns(columns, {{.name = u"lebar"_s, .caption = u"MMMM"_s}});
     // Away from the corner of the window, where wrong clipping would not show.
     grid.setGeometry(50, 150, 200, 100);
@@ -152,7 +152,8 @@ TEST(Bands, CaptionStandsOverThePartThatCanBeSeen) {
 } // namespace
 
 TEST(GridColumn, FactorsLineUpAtTheComma) {
-    const GridColumn factor({u"f"_s, u"f"_s, u"F"_s, Show::Factor}, nullptr);
+    QObject grid;
+    const GridColumn factor({u"f"_s, u"F"_s, Show::Factor}, &grid);
     const auto shown = [&](double value) {
         return factor.linedUp(factor.displayText(value)).replace(QChar(0x2007), u'_').replace(QChar(0x2008), u'.');
     };

@@ -168,7 +168,8 @@ TEST_F(Recap, ConditionNarrowsTheEmployees) {
 }
 
 std::string colourOf(const frame::recap::ColourSettings& settings, const char16_t* column, const QVariant& value) {
-    const GridColumn object({u"dbg_rekap"_s + QString::fromUtf16(column), {}, {}}, nullptr);
+    QObject grid;
+    const GridColumn object({QString::fromUtf16(column), {}}, &grid);
     const QColor colour = frame::recap::cellColour(settings, {object, value});
     return colour.isValid() ? colour.name().toStdString() : "";
 }

@@ -13,7 +13,7 @@ class DataGrid final : public QTableView {
 public:
     explicit DataGrid(QWidget* parent = nullptr);
 
-    /// Said once, before or after the data set is given.
+    /// Said once, when the grid has its name, before or after the data set is given.
     void setColumns(const std::vector<ColumnPlan>& columns, const std::vector<BandPlan>& bands = {});
     void setDataSet(data::DataSet* set);
     [[nodiscard]] data::DataSet* dataSet() const { return m_model->dataSet(); }

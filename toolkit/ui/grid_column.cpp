@@ -26,8 +26,8 @@ void GridBand::setCaption(const QString& caption) {
     Q_EMIT changed();
 }
 
-GridColumn::GridColumn(const ColumnPlan& plan, QObject* parent) : QObject(parent), m_plan(plan) {
-    setObjectName(plan.name);
+GridColumn::GridColumn(const ColumnPlan& plan, QObject* grid) : QObject(grid), m_plan(plan) {
+    setObjectName(grid->objectName() + plan.field);
 }
 
 void GridColumn::setCaption(const QString& caption) {

@@ -14,9 +14,9 @@ enum class Show {
     Tick,   ///< a mark that the user sets and clears, -1 and 0
 };
 
-/// What a screen says of one column when it sets up a grid.
+/// What a screen says of one column when it sets up a grid. The language tables address its caption by the grid's name
+/// with the field behind it.
 struct ColumnPlan {
-    QString name; ///< object name, by which the language tables address the caption
     QString field;
     QString caption;
     Show show = Show::Plain;
@@ -53,7 +53,7 @@ class GridColumn final : public QObject {
     Q_OBJECT
 
 public:
-    GridColumn(const ColumnPlan& plan, QObject* parent);
+    GridColumn(const ColumnPlan& plan, QObject* grid);
 
     [[nodiscard]] const QString& field() const { return m_plan.field; }
     [[nodiscard]] const QString& band() const { return m_plan.band; }
