@@ -122,11 +122,8 @@ void Tfrm_userlog::btn_cariClick() {
 }
 
 void Tfrm_userlog::btn_hapusClick() {
-    const QDateTime moment = m_services.session.clock();
     const QString date = isoDate(m_ui->dtp_hapus->date());
-    const QString note =
-        u"%1 - %2 [User Log Data < %3]"_s.arg(windowTitle(), captionText(m_ui->btn_hapus->text()), date);
-    m_services.audit.WriteUserLog(m_services.session.login_id, note, base::payrollModule, moment);
+    m_services.log(*this, captionText(m_ui->btn_hapus->text()), u"User Log Data < "_s + date);
     m_services.session.ADOCom_update.execute(u"Delete From user_log where DATE(log_date)<DATE('%1') "_s.arg(date));
     m_services.messages.inform(this, terhapus);
     btn_cariClick();

@@ -281,10 +281,9 @@ void Tfrm_hitung_gaji::show_what_is_left() {
 }
 
 void Tfrm_hitung_gaji::delete_current_run() {
-    const QString note = u"%1 - %2 [%3, %4 -- %5]"_s.arg(windowTitle(), captionText(m_ui->btn_hapus->text()),
-                                                         cds_m.text(u"process_name"), isoDate(cds_m.date(u"date1")),
-                                                         isoDate(cds_m.date(u"date2")));
-    m_services.audit.WriteUserLog(m_services.session.login_id, note, base::payrollModule, m_services.session.clock());
+    m_services.log(*this, captionText(m_ui->btn_hapus->text()),
+                   u"%1, %2 -- %3"_s.arg(cds_m.text(u"process_name"), isoDate(cds_m.date(u"date1")),
+                                         isoDate(cds_m.date(u"date2"))));
     for (const char16_t* table : {u"z_pay_process_sd", u"z_pay_process_d", u"z_pay_process_m"})
         try {
             m_services.session.ADOCom_update.execute(

@@ -338,7 +338,7 @@ run::Saved Tfrm_isian_hitung_gaji::write_run() {
 }
 
 void Tfrm_isian_hitung_gaji::selesai() {
-    save_log(m_task.mode == RunFormTask::New ? u"Insert"_s : u"Update"_s);
+    save_log(m_task.mode == RunFormTask::New ? u"Insert -"_s : u"Update -"_s);
     m_task.refresh();
     if (m_task.mode == RunFormTask::New && m_task.goToLast)
         m_task.goToLast();
@@ -346,12 +346,8 @@ void Tfrm_isian_hitung_gaji::selesai() {
 }
 
 void Tfrm_isian_hitung_gaji::save_log(const QString& action) {
-    const QString date = u"yyyy-MM-dd"_s;
-    const QString note = u"%1 - %2 - [%3, %4 -- %5]"_s.arg(windowTitle(), action, m_ui->dbe_nama->text(),
-                                                           m_copy.cds_m.date(u"date1").toString(date),
-                                                           m_copy.cds_m.date(u"date2").toString(date));
-    fault::dropFault("catatan user log dari penyimpanan", [&] {
-        m_services.audit.WriteUserLog(m_services.session.login_id, note, base::payrollModule,
-                                      m_services.session.clock());
-    });
+    const QString what =
+        u"%1, %2 -- %3"_s.arg(m_ui->dbe_nama->text(), m_copy.cds_m.date(u"date1").toString(Qt::ISODate),
+                              m_copy.cds_m.date(u"date2").toString(Qt::ISODate));
+    fault::dropFault("catatan user log dari penyimpanan", [&] { m_services.log(*this, action, what); });
 }
