@@ -12,25 +12,13 @@ bool isTicked(const data::DataSet& list) {
     return list.integer(u"pilih") == ticked;
 }
 
-int wishedTick(TickWish wish, bool isTickedNow) {
-    switch (wish) {
-    case TickWish::All:
-        return ticked;
-    case TickWish::None:
-        return 0;
-    case TickWish::Invert:
-        break;
-    }
-    return isTickedNow ? 0 : ticked;
-}
-
 } // namespace
 
 void setTicks(data::DataSet& list, TickWish wish, const TickToggled& toggled) {
     const data::ViewsOff off(list);
     const int row = list.row();
     for (list.first(); !list.isEof(); list.next()) {
-        const int tick = wishedTick(wish, isTicked(list));
+        const int tick = isWished(wish, isTicked(list)) ? ticked : 0;
         list.edit();
         list.setValue(u"pilih", tick);
         if (toggled)

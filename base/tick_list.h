@@ -2,14 +2,14 @@
 
 #include "base/messages.h"
 #include "toolkit/data/data_set.h"
+#include "toolkit/ui/ticks.h"
 
 #include <functional>
 
 namespace base {
 
-/// The ticks of a list lie in its field "pilih": -1 ticked, anything else not. They are never written back and are
-/// lost when the list is read again.
-enum class TickWish { All, None, Invert };
+// The ticks of a list lie in its field "pilih": -1 ticked, anything else not. They are never written back and are
+// lost when the list is read again.
 
 /// Told of each row while it is current and before its tick is stored, with the new tick as text, "-1" or "0".
 using TickToggled = std::function<void(const QString& text)>;

@@ -4,8 +4,8 @@
 
 #include <QWidget>
 
+class CheckList;
 class QLabel;
-class QListWidget;
 
 /// Employees to be ticked one by one, as a condition of a search.
 class EmpCheckList final : public QWidget {
@@ -23,9 +23,6 @@ public:
     [[nodiscard]] QString BuildCriteriaFilter(base::Messages& messages);
 
 private:
-    void clb_empClickCheck();
-
-    QListWidget* clb_emp;
-    QListWidget* clb_emp_id; ///< the keys, in the order of clb_emp
+    CheckList* clb_emp;
     QLabel* lbl_jml;
 };

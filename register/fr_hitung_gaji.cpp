@@ -118,17 +118,16 @@ void Tfrm_hitung_gaji::set_up() {
 
 void Tfrm_hitung_gaji::connect_handlers() {
     using Self = Tfrm_hitung_gaji;
-    const std::pair<QPushButton*, void (Self::*)()> clicks[] = {
-        {m_ui->btn_cari, &Self::btn_cariClick},
-        {m_ui->btn_tambah, &Self::btn_tambahClick},
-        {m_ui->btn_edit, &Self::btn_editClick},
-        {m_ui->btn_hapus, &Self::btn_hapusClick},
-        {m_ui->btn_cetak, &Self::btn_cetakClick},
-        {m_ui->btn_select_all, &Self::btn_select_allClick},
-        {m_ui->btn_disselect_all, &Self::btn_disselect_allClick},
-        {m_ui->btn_invert, &Self::btn_invertClick}};
+    const std::pair<QPushButton*, void (Self::*)()> clicks[] = {{m_ui->btn_cari, &Self::btn_cariClick},
+                                                                {m_ui->btn_tambah, &Self::btn_tambahClick},
+                                                                {m_ui->btn_edit, &Self::btn_editClick},
+                                                                {m_ui->btn_hapus, &Self::btn_hapusClick},
+                                                                {m_ui->btn_cetak, &Self::btn_cetakClick}};
     for (const auto& [button, handler] : clicks)
         onEvent(button, &QPushButton::clicked, this, handler);
+    bindTickButtons(*this, {m_ui->btn_select_all, m_ui->btn_disselect_all, m_ui->btn_invert}, [this](TickWish wish) {
+        fault::dropFault("pencentangan perhitungan", [&] { base::setTicks(cds_m, wish); });
+    });
     setDefaultButton(m_ui->btn_cari);
     onEvent(m_ui->dbg_m, &DataGrid::rowChangedByUser, this, &Self::dbg_mClick);
     onEvent(m_ui->dbg_d, &DataGrid::rowChangedByUser, this, &Self::dbg_dClick);
@@ -225,18 +224,6 @@ void Tfrm_hitung_gaji::dbg_dClick() {
     show_sums(u"] ~ "_s);
 }
 
-void Tfrm_hitung_gaji::btn_select_allClick() {
-    fault::dropFault("pencentangan semua perhitungan", [this] { base::setTicks(cds_m, base::TickWish::All); });
-}
-
-void Tfrm_hitung_gaji::btn_disselect_allClick() {
-    fault::dropFault("penghapusan semua centang", [this] { base::setTicks(cds_m, base::TickWish::None); });
-}
-
-void Tfrm_hitung_gaji::btn_invertClick() {
-    fault::dropFault("pembalikan centang", [this] { base::setTicks(cds_m, base::TickWish::Invert); });
-}
-
 void Tfrm_hitung_gaji::open_form(RunFormTask task) {
     // The run is stored by then: a list that cannot be read must not look like a save that failed.
     task.refresh = [this] { fault::dropFault("penyegaran daftar perhitungan", [this] { btn_cariClick(); }); };
@@ -248,7 +235,7 @@ void Tfrm_hitung_gaji::open_form(RunFormTask task) {
 }
 
 void Tfrm_hitung_gaji::btn_tambahClick() {
-    open_form({.mode = RunFormTask::New});
+    open_form({.mode = EntryMode::New});
 }
 
 void Tfrm_hitung_gaji::btn_editClick() {
@@ -258,7 +245,7 @@ void Tfrm_hitung_gaji::btn_editClick() {
     data::SqlQuery& sql = m_services.session.sql_cek;
     sql.openSql(u"select process_id from z_pay_process_m where process_id=%1 "_s.arg(process_id));
     if (!sql.isEmpty()) {
-        open_form({.mode = RunFormTask::Edit, .process_id = process_id});
+        open_form({.mode = EntryMode::Edit, .process_id = process_id});
         return;
     }
     m_services.messages.inform(this, sudah_dihapus);

@@ -34,9 +34,6 @@ private:
     void btn_editClick();
     void btn_hapusClick();
     void btn_cetakClick();
-    void btn_select_allClick();
-    void btn_disselect_allClick();
-    void btn_invertClick();
     void dbg_mClick();
     void dbg_dClick();
 

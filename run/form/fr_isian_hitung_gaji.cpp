@@ -51,7 +51,8 @@ data::Field integerField(const QString& name) {
 } // namespace
 
 Tfrm_isian_hitung_gaji::Tfrm_isian_hitung_gaji(base::Services& services, RunFormTask task, QWidget* parent) :
-    Screen(services, parent), m_ui(std::make_unique<Ui::frm_isian_hitung_gaji>()), m_task(std::move(task)),
+    EntryScreen(services, task.mode, parent, {u"[Data Baru]", u"[Ubah Data]", u"[Lihat Data]"}),
+    m_ui(std::make_unique<Ui::frm_isian_hitung_gaji>()), m_task(std::move(task)),
     m_copy(services.session.ADOConn, {services.session.login_id, services.session.clock}),
     sql_grp(services.session.ADOConn), sql_komp(services.session.ADOConn, componentStructure), cds_grp({&sql_grp}),
     cds_komp({&sql_komp}), vir_tb({integerField(u"grp_id"_s)}),
@@ -110,27 +111,20 @@ void Tfrm_isian_hitung_gaji::set_up() {
 void Tfrm_isian_hitung_gaji::connect_handlers() {
     using Self = Tfrm_isian_hitung_gaji;
     const std::pair<QAbstractButton*, void (Self::*)()> clicks[] = {
-        {m_ui->btn_select_all, &Self::btn_select_allClick},
-        {m_ui->btn_disselect_all, &Self::btn_disselect_allClick},
-        {m_ui->btn_invert, &Self::btn_invertClick},
-        {m_ui->btn_select_all2, &Self::btn_select_all2Click},
-        {m_ui->btn_disselect_all2, &Self::btn_disselect_all2Click},
-        {m_ui->btn_invert2, &Self::btn_invert2Click},
-        {m_ui->chb_emp, &Self::chb_empClick},
-        {m_ui->btn_emp, &Self::btn_empClick},
-        {m_ui->btn_sel_all, &Self::btn_sel_allClick},
-        {m_ui->btn_disel_all, &Self::btn_disel_allClick},
-        {m_ui->btn_balik, &Self::btn_balikClick},
-        {m_ui->chb_kredit, &Self::chb_kreditClick},
-        {m_ui->btn_proses, &Self::btn_prosesClick},
-        {m_ui->btn_hitung, &Self::btn_hitungClick},
-        {m_ui->btn_hapus, &Self::btn_hapusClick},
-        {m_ui->btn_hapus2, &Self::btn_hapus2Click},
-        {m_ui->btn_simpan, &Self::btn_simpanClick}};
+        {m_ui->chb_emp, &Self::chb_empClick},       {m_ui->btn_emp, &Self::btn_empClick},
+        {m_ui->chb_kredit, &Self::chb_kreditClick}, {m_ui->btn_proses, &Self::btn_prosesClick},
+        {m_ui->btn_hitung, &Self::btn_hitungClick}, {m_ui->btn_hapus, &Self::btn_hapusClick},
+        {m_ui->btn_hapus2, &Self::btn_hapus2Click}, {m_ui->btn_simpan, &Self::btn_simpanClick}};
     for (const auto& [button, handler] : clicks)
         onEvent(button, &QAbstractButton::clicked, this, handler);
+    bindTickButtons(*this, {m_ui->btn_select_all, m_ui->btn_disselect_all, m_ui->btn_invert},
+                    [this](TickWish wish) { tick_groups(wish); });
+    bindTickButtons(*this, {m_ui->btn_select_all2, m_ui->btn_disselect_all2, m_ui->btn_invert2},
+                    [this](TickWish wish) { tick_components(wish); });
+    bindTickButtons(*this, {m_ui->btn_sel_all, m_ui->btn_disel_all, m_ui->btn_balik},
+                    [this](TickWish wish) { m_ui->clb_emp->tickAll(wish); });
     onEvent(m_ui->cmb_kredit, &QComboBox::activated, this, &Self::cmb_kreditCloseUp);
-    onEvent(m_ui->clb_emp, &QListWidget::itemChanged, this, &Self::clb_empClickCheck);
+    onEvent(m_ui->clb_emp, &CheckList::ticksChanged, this, &Self::clb_empClickCheck);
     connect(m_ui->btn_tutup, &QPushButton::clicked, this, &QDialog::close);
     connect(m_ui->dbg_grp, &DataGrid::toggled, this, [this](const QString&, const QString& text) {
         runHandler(this, [this, text] { dbg_grppilihToggleClick(text); });
@@ -145,14 +139,7 @@ void Tfrm_isian_hitung_gaji::connect_handlers() {
     });
 }
 
-void Tfrm_isian_hitung_gaji::FormActivate() {
-    open_lists();
-    if (!std::exchange(baru_dibuka, false))
-        return;
-    open_run();
-}
-
-void Tfrm_isian_hitung_gaji::open_lists() {
+void Tfrm_isian_hitung_gaji::openLists() {
     sql_grp.setSql(groupStatement(m_services.session.session_cab_id));
     cds_grp.reopen();
     FitGridColumns(*m_ui->dbg_grp);
@@ -161,18 +148,16 @@ void Tfrm_isian_hitung_gaji::open_lists() {
     ClearDataSet(vir_tb);
 }
 
-void Tfrm_isian_hitung_gaji::open_run() {
+void Tfrm_isian_hitung_gaji::openEntry() {
     for (QDateEdit* picker : {static_cast<QDateEdit*>(m_ui->dbtp_tgl_aw), static_cast<QDateEdit*>(m_ui->dbtp_tgl_akh)})
         picker->setDisplayFormat(u"dd/MM/yyyy"_s);
-    // The caption of the language with the mode behind it.
-    setWindowTitle(windowTitle() + u' ' + m_modeCaptions[m_task.mode].text());
-    if (m_task.mode == RunFormTask::New) {
+    if (mode() == EntryMode::New) {
         m_copy.openNew();
         siapkan_baru();
         return;
     }
     m_copy.open(m_task.process_id);
-    if (m_task.mode == RunFormTask::Edit)
+    if (mode() == EntryMode::Edit)
         m_copy.editAll();
     else
         set_read_only();
@@ -180,12 +165,9 @@ void Tfrm_isian_hitung_gaji::open_run() {
 }
 
 void Tfrm_isian_hitung_gaji::set_read_only() {
-    for (data::DataSet* set : std::initializer_list<data::DataSet*>{&m_copy.cds_m, &m_copy.cds_d, &m_copy.cds_sd})
-        set->setReadOnly(true);
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{m_ui->dbe_nama, m_ui->dbe_bulat, m_ui->dbtp_tgl_aw, m_ui->dbtp_tgl_akh,
-                                         m_ui->btn_proses, m_ui->btn_hitung, m_ui->btn_hapus, m_ui->btn_hapus2})
-        control->setEnabled(false);
+    setReadOnly({&m_copy.cds_m, &m_copy.cds_d, &m_copy.cds_sd},
+                {m_ui->dbe_nama, m_ui->dbe_bulat, m_ui->dbtp_tgl_aw, m_ui->dbtp_tgl_akh, m_ui->btn_proses,
+                 m_ui->btn_hitung, m_ui->btn_hapus, m_ui->btn_hapus2});
 }
 
 void Tfrm_isian_hitung_gaji::siapkan_baru() {
@@ -213,7 +195,7 @@ void Tfrm_isian_hitung_gaji::siapkan_ubah() {
     m_copy.cds_d.last();
     m_copy.cds_d.first();
     // A run that another station has deleted meanwhile has no header to stamp.
-    if (m_task.mode == RunFormTask::Edit && !m_copy.cds_m.isEmpty())
+    if (mode() == EntryMode::Edit && !m_copy.cds_m.isEmpty())
         m_copy.stamp();
     FitGridColumns(*m_ui->dbg_d);
     FitGridColumns(*m_ui->dbg_sd);
@@ -285,19 +267,12 @@ void Tfrm_isian_hitung_gaji::btn_hapus2Click() {
     btn_hitungClick();
 }
 
-bool Tfrm_isian_hitung_gaji::cek_nama_proses() {
-    if (!m_ui->dbe_nama->text().trimmed().isEmpty())
-        return true;
-    m_services.messages.error(this, nama_kosong);
-    m_ui->dbe_nama->setFocus();
-    return false;
-}
-
 void Tfrm_isian_hitung_gaji::btn_simpanClick() {
     bool isStored = false;
     try {
         m_copy.cds_m.settle();
-        isStored = cek_nama_proses() && m_task.mode != RunFormTask::View && simpan();
+        const bool noName = firstMissing({{m_ui->dbe_nama, m_ui->dbe_nama->text().trimmed().isEmpty(), nama_kosong}});
+        isStored = !noName && mode() != EntryMode::View && simpan();
     } catch (const std::exception& fault) {
         showFault(this, fault);
     }
@@ -338,16 +313,16 @@ run::Saved Tfrm_isian_hitung_gaji::write_run() {
 }
 
 void Tfrm_isian_hitung_gaji::selesai() {
-    save_log(m_task.mode == RunFormTask::New ? u"Insert -"_s : u"Update -"_s);
+    save_log();
     m_task.refresh();
-    if (m_task.mode == RunFormTask::New && m_task.goToLast)
+    if (mode() == EntryMode::New && m_task.goToLast)
         m_task.goToLast();
     close();
 }
 
-void Tfrm_isian_hitung_gaji::save_log(const QString& action) {
+void Tfrm_isian_hitung_gaji::save_log() {
     const QString what =
         u"%1, %2 -- %3"_s.arg(m_ui->dbe_nama->text(), m_copy.cds_m.date(u"date1").toString(Qt::ISODate),
                               m_copy.cds_m.date(u"date2").toString(Qt::ISODate));
-    fault::dropFault("catatan user log dari penyimpanan", [&] { m_services.log(*this, action, what); });
+    fault::dropFault("catatan user log dari penyimpanan", [&] { logSave(what); });
 }

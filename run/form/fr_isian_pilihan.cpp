@@ -9,7 +9,6 @@
 #include "ui_fr_isian_hitung_gaji.h"
 
 #include <QResizeEvent>
-#include <QSignalBlocker>
 
 using namespace Qt::StringLiterals;
 
@@ -20,37 +19,13 @@ constexpr int pnlEmpBottomMargin = 12;
 
 } // namespace
 
-void Tfrm_isian_hitung_gaji::tick_groups(base::TickWish wish) {
+void Tfrm_isian_hitung_gaji::tick_groups(TickWish wish) {
     base::setTicks(cds_grp, wish, [this](const QString& text) { dbg_grppilihToggleClick(text); });
     FitGridColumns(*m_ui->dbg_kom);
 }
 
-void Tfrm_isian_hitung_gaji::btn_select_allClick() {
-    tick_groups(base::TickWish::All);
-}
-
-void Tfrm_isian_hitung_gaji::btn_disselect_allClick() {
-    tick_groups(base::TickWish::None);
-}
-
-void Tfrm_isian_hitung_gaji::btn_invertClick() {
-    tick_groups(base::TickWish::Invert);
-}
-
-void Tfrm_isian_hitung_gaji::tick_components(base::TickWish wish) {
+void Tfrm_isian_hitung_gaji::tick_components(TickWish wish) {
     base::setTicks(cds_komp, wish, [this](const QString& text) { dbg_kompilihToggleClick(text); });
-}
-
-void Tfrm_isian_hitung_gaji::btn_select_all2Click() {
-    tick_components(base::TickWish::All);
-}
-
-void Tfrm_isian_hitung_gaji::btn_disselect_all2Click() {
-    tick_components(base::TickWish::None);
-}
-
-void Tfrm_isian_hitung_gaji::btn_invert2Click() {
-    tick_components(base::TickWish::Invert);
 }
 
 void Tfrm_isian_hitung_gaji::dbg_grppilihToggleClick(const QString& text) {
@@ -155,19 +130,13 @@ void Tfrm_isian_hitung_gaji::place_panels() {
 }
 
 void Tfrm_isian_hitung_gaji::isi_daftar_karyawan() {
-    const QSignalBlocker quiet(m_ui->clb_emp);
-    m_ui->clb_emp->clear();
-    clb_emp_id.clear();
+    std::vector<CheckList::Entry> entries;
     ClearDataSet(vir_emp);
     data::SqlQuery& sql = m_services.session.sql_cek;
     for (vir_tb.first(); !vir_tb.isEof(); vir_tb.next()) {
         const int grp_id = vir_tb.integer32(u"grp_id");
         for (sql.openSql(run::membersStatement(grp_id, base::Branch::all())); !sql.isEof(); sql.next()) {
-            auto* item = new QListWidgetItem(u"[%1] %2"_s.arg(sql.text(u"pin"), sql.text(u"nama")));
-            item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-            item->setCheckState(Qt::Unchecked);
-            m_ui->clb_emp->addItem(item);
-            clb_emp_id.push_back(sql.integer32(u"emp_id_auto"));
+            entries.push_back({u"[%1] %2"_s.arg(sql.text(u"pin"), sql.text(u"nama")), sql.integer32(u"emp_id_auto")});
             if (vir_emp.rowOf({{u"emp_id_auto", sql.value(u"emp_id_auto")}}) >= 0)
                 continue;
             vir_emp.append();
@@ -177,40 +146,11 @@ void Tfrm_isian_hitung_gaji::isi_daftar_karyawan() {
             vir_emp.post();
         }
     }
-    m_ui->lbl_jml->setText(u"0"_s);
+    m_ui->clb_emp->fill(entries);
 }
 
-void Tfrm_isian_hitung_gaji::clb_empClickCheck() {
-    int count = 0;
-    for (int i = 0; i < m_ui->clb_emp->count(); ++i)
-        count += m_ui->clb_emp->item(i)->checkState() == Qt::Checked ? 1 : 0;
-    m_ui->lbl_jml->setText(QString::number(count));
-}
-
-void Tfrm_isian_hitung_gaji::check_employees(base::TickWish wish) {
-    {
-        const QSignalBlocker quiet(m_ui->clb_emp);
-        for (int i = 0; i < m_ui->clb_emp->count(); ++i) {
-            QListWidgetItem* item = m_ui->clb_emp->item(i);
-            const bool ticked =
-                wish == base::TickWish::All || (wish == base::TickWish::Invert && item->checkState() != Qt::Checked);
-            item->setCheckState(ticked ? Qt::Checked : Qt::Unchecked);
-        }
-    }
-    m_ui->clb_emp->viewport()->update();
-    clb_empClickCheck();
-}
-
-void Tfrm_isian_hitung_gaji::btn_sel_allClick() {
-    check_employees(base::TickWish::All);
-}
-
-void Tfrm_isian_hitung_gaji::btn_disel_allClick() {
-    check_employees(base::TickWish::None);
-}
-
-void Tfrm_isian_hitung_gaji::btn_balikClick() {
-    check_employees(base::TickWish::Invert);
+void Tfrm_isian_hitung_gaji::clb_empClickCheck(int ticked) {
+    m_ui->lbl_jml->setText(QString::number(ticked));
 }
 
 void Tfrm_isian_hitung_gaji::chb_kreditClick() {
@@ -230,8 +170,8 @@ void Tfrm_isian_hitung_gaji::cmb_kreditCloseUp() {
 
 run::EmployeeChoice Tfrm_isian_hitung_gaji::chosen_employees() const {
     run::EmployeeChoice choice;
-    for (std::size_t i = 0; i < clb_emp_id.size(); ++i)
-        choice.clb_emp_id.push_back({clb_emp_id[i], m_ui->clb_emp->item(int(i))->checkState() == Qt::Checked});
+    for (int entry = 0; entry < m_ui->clb_emp->count(); ++entry)
+        choice.clb_emp_id.push_back({m_ui->clb_emp->keyOf(entry), m_ui->clb_emp->isTicked(entry)});
     const auto text = [this](int row, QStringView field) {
         return data::textOf(vir_emp.valueAt(row, vir_emp.fieldIndex(field)));
     };
