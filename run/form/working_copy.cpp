@@ -172,7 +172,7 @@ void WorkingCopy::appendRun(const Run& run) {
         cds_d.setValue(u"pin", line.pin);
         cds_d.setValue(u"nik", line.nik);
         cds_d.setValue(u"nama", line.nama);
-        cds_d.setValue(u"tot_payroll", line.tot_payroll);
+        cds_d.setValue(u"tot_payroll", 0);
         cds_d.post();
         for (const Row& row : line.rows) {
             cds_sd.append();

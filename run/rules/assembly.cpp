@@ -27,7 +27,6 @@ private:
     static void computePeriod(std::span<const Rule> rules, const Component& component, Evaluator& evaluator,
                               Line& line);
     void addLoans(Line& line);
-    void numberRows(Line& line);
 
     Run& m_run;
     const Selections& m_selections;
@@ -70,7 +69,6 @@ Notice Assembly::proses_karyawan_pilih(const EmployeeChoice& choice) {
 
 void Assembly::hitung_karyawan(int grp_id, const Employee& employee) {
     Line& line = m_run.lines.emplace_back();
-    line.no_urut = ++m_run.nomor_rincian_terakhir;
     line.emp_id_auto = employee.emp_id_auto;
     line.pin = employee.pin;
     line.nik = employee.nik;
@@ -79,7 +77,6 @@ void Assembly::hitung_karyawan(int grp_id, const Employee& employee) {
         "komponen selebihnya seorang karyawan", [&] { computeComponents(grp_id, line); }, NoteFault{line});
     if (m_selections.loans != LoanTest::None)
         fault::dropFault("pinjaman selebihnya seorang karyawan", [&] { addLoans(line); });
-    numberRows(line);
     if (m_done)
         m_done(++m_employees);
 }
@@ -119,8 +116,7 @@ void Assembly::addLoans(Line& line) {
         const auto row = std::ranges::find(line.rows, loan.com_id, &Row::com_id);
         if (row == line.rows.end()) {
             count = 1;
-            line.rows.push_back({.emp_id_auto = line.emp_id_auto,
-                                 .com_id = loan.com_id,
+            line.rows.push_back({.com_id = loan.com_id,
                                  .com_kode = loan.com_kode,
                                  .com_name = loan.com_name,
                                  .subtot_payroll = loan.jml_angsuran,
@@ -134,15 +130,10 @@ void Assembly::addLoans(Line& line) {
     }
 }
 
-void Assembly::numberRows(Line& line) {
-    for (Row& row : line.rows)
-        row.no_urut_ref = ++m_run.nomor_baris_terakhir;
-}
-
 } // namespace
 
 Notice proses(Run& run, const Selections& selections, Lookups& lookups, const EmployeeDone& done) {
-    run.clear();
+    run.lines.clear();
     Assembly assembly(run, selections, lookups, done);
     if (selections.employees)
         return assembly.proses_karyawan_pilih(*selections.employees);

@@ -9,8 +9,6 @@ namespace run {
 
 namespace {
 
-constexpr int columnWidth = 100;
-
 /// The C form "%.15g", whatever the locale.
 QString generalText(double value) {
     std::array<char, 32> digits{};
@@ -39,7 +37,7 @@ QString ConditionText::text() const {
             text += u' ';
         text += QLatin1Char(char(m_sign)) + (u' ' + moneyText(m_money));
     }
-    return text.left(columnWidth);
+    return text;
 }
 
 } // namespace run

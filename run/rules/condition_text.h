@@ -17,7 +17,6 @@ public:
     void addMoney(Operator sign, Money money);
 
     [[nodiscard]] bool isEmpty() const { return !m_hasConstant && m_moneyParts == 0; }
-    /// Cut at the 100 characters that the column holds.
     [[nodiscard]] QString text() const;
 
 private:

@@ -6,16 +6,47 @@
 
 namespace run {
 
+namespace {
+
+void assign(Row& row, const Working& working) {
+    row.jml_faktor = bulat_desimal(working.faktor);
+    row.subtot_payroll = rupiahOf(working.hasil);
+}
+
+/// Joins a result to the row that earlier rules of the component have made; true where its text takes the place of
+/// the row's. A fault leaves the row as it was.
+[[nodiscard]] bool merge(Row& row, const Rule& rule, Working& working) {
+    const bool adds = rule.jenis == 0 || rule.jenis == 1;
+    if (adds) {
+        row.jml_faktor = bulat_desimal(Extended(row.jml_faktor) + working.faktor);
+        row.subtot_payroll =
+            double((Extended(row.subtot_payroll) * unitsPerRupiah + working.hasil.units) / unitsPerRupiah);
+        return false;
+    }
+    if (working.nilai_batas != 0 && working.nilai_asli != 0 && rule.use_sum == flagOn) {
+        working.faktor = working.nilai_batas;
+        applyFormula(rule, working.nilai_batas, working);
+    }
+    if (working.hasil == Money{})
+        return false;
+    assign(row, working);
+    return !working.teks_kondisi.isEmpty();
+}
+
+} // namespace
+
 Evaluator::Evaluator(Lookups& lookups, const Window& period, Line& line) :
     m_lookups(lookups), m_period(period), m_line(line), m_emp_id_auto(line.emp_id_auto), m_cds_sd(line.rows) {}
 
 void Evaluator::hitung_aturan(const Rule& rule, const Component& component) {
     Working working = evaluate(rule, m_period);
     if (Row* row = rowOf(component.com_id)) {
-        merge(*row, rule, working);
+        if (merge(*row, rule, working))
+            row->kondisi = working.teks_kondisi.text();
     } else {
         Row fresh = newRow(component, rule.typex);
         assign(fresh, working);
+        fresh.kondisi = working.teks_kondisi.text();
         m_cds_sd.push_back(std::move(fresh));
     }
     if (rule.param == flagOn)
@@ -52,28 +83,33 @@ void Evaluator::hitung_perhari(int grp_id, const Component& component) {
 void Evaluator::hitung_aturan_hari(const Rule& rule, const QDate& tanggal) {
     Working working = evaluate(rule, {tanggal, tanggal});
     // The days come in order, so a row of this day can only be the last one.
-    if (!m_vir_tb4.empty() && m_vir_tb4.back().tanggal == tanggal) {
-        merge(m_vir_tb4.back(), rule, working);
+    if (m_vir_tb4.empty() || m_vir_tb4.back().tanggal != tanggal) {
+        DayRow fresh{tanggal, {}, working.teks_kondisi};
+        assign(fresh.row, working);
+        m_vir_tb4.push_back(std::move(fresh));
         return;
     }
-    DayResult fresh;
-    fresh.tanggal = tanggal;
-    assign(fresh, working);
-    m_vir_tb4.push_back(fresh);
+    DayRow& day = m_vir_tb4.back();
+    Row merged = day.row;
+    const bool showsText = merge(merged, rule, working);
+    // Unlike a row over the period, a day that is no amount of money keeps what it had.
+    (void)moneyOfRupiah(merged.subtot_payroll);
+    day.row = std::move(merged);
+    if (showsText)
+        day.kondisi = working.teks_kondisi;
 }
 
 Row Evaluator::sumOfDays(const Component& component, int type, Money& total) const {
     Row row = newRow(component, type);
     ConditionText text;
-    for (const DayResult& day : m_vir_tb4) {
-        total = moneyOfUnits(Extended(day.subtot_payroll.units) + total.units);
-        row.jml_faktor = bulat_desimal(Extended(row.jml_faktor) + day.jml_faktor);
+    for (const DayRow& day : m_vir_tb4) {
+        total = moneyOfUnits(Extended(moneyOfRupiah(day.row.subtot_payroll).units) + total.units);
+        row.jml_faktor = bulat_desimal(Extended(row.jml_faktor) + day.row.jml_faktor);
         if (!day.kondisi.isEmpty())
             text = day.kondisi;
     }
-    setAmount(row, total);
-    row.jml_faktor = bulat_desimal(row.jml_faktor);
-    setText(row, text);
+    row.subtot_payroll = rupiahOf(total);
+    row.kondisi = text.text();
     return row;
 }
 
@@ -92,10 +128,9 @@ Working Evaluator::evaluate(const Rule& rule, const Window& window) {
         working.faktor = 1;
         working.teks_kondisi.addMoney(Operator::Multiply, working.nilai_uang);
     } else if (rule.use_sum == flagOn) {
-        working.nilai_rumus =
+        working.faktor =
             rule.sharesFigure() ? working.nilai_kondisi : sourceValue(rule.use_kode_sum, rule.id_kode_sum, window);
-        working.faktor = working.nilai_rumus;
-        applyFormula(rule, working.nilai_rumus, working);
+        applyFormula(rule, working.faktor, working);
     }
     return working;
 }
@@ -138,65 +173,11 @@ Row* Evaluator::rowOf(int com_id) {
 
 Row Evaluator::newRow(const Component& component, int type) const {
     Row row;
-    row.emp_id_auto = m_emp_id_auto;
     row.com_id = component.com_id;
     row.com_kode = component.com_kode;
     row.com_name = component.com_name;
     row.type = type;
     return row;
-}
-
-void Evaluator::setAmount(Row& row, Money hasil) {
-    row.subtot_payroll = rupiahOf(hasil);
-}
-
-void Evaluator::setAmount(DayResult& day, Money hasil) {
-    day.subtot_payroll = hasil;
-}
-
-void Evaluator::addAmount(Row& row, Money hasil) {
-    row.subtot_payroll = double((Extended(row.subtot_payroll) * unitsPerRupiah + hasil.units) / unitsPerRupiah);
-}
-
-void Evaluator::addAmount(DayResult& day, Money hasil) {
-    day.subtot_payroll = moneyOfUnits(Extended(day.subtot_payroll.units) + hasil.units);
-}
-
-void Evaluator::setText(Row& row, const ConditionText& text) {
-    row.kondisi = text.text();
-}
-
-void Evaluator::setText(DayResult& day, const ConditionText& text) {
-    day.kondisi = text;
-}
-
-template <typename Target>
-void Evaluator::assign(Target& target, const Working& working) {
-    target.jml_faktor = bulat_desimal(working.faktor);
-    setAmount(target, working.hasil);
-    setText(target, working.teks_kondisi);
-}
-
-/// Joins a result to the row that earlier rules of the component have made. A fault leaves the row as it was.
-template <typename Target>
-void Evaluator::merge(Target& target, const Rule& rule, Working& working) {
-    const bool adds = rule.jenis == 0 || rule.jenis == 1;
-    if (adds) {
-        const double faktor = bulat_desimal(Extended(target.jml_faktor) + working.faktor);
-        addAmount(target, working.hasil);
-        target.jml_faktor = faktor;
-        return;
-    }
-    if (working.nilai_batas != 0 && working.nilai_asli != 0 && rule.use_sum == flagOn) {
-        working.faktor = working.nilai_batas;
-        applyFormula(rule, working.nilai_batas, working);
-    }
-    if (working.hasil == Money{})
-        return;
-    target.jml_faktor = bulat_desimal(working.faktor);
-    setAmount(target, working.hasil);
-    if (!working.teks_kondisi.isEmpty())
-        setText(target, working.teks_kondisi);
 }
 
 } // namespace run

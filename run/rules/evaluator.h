@@ -33,10 +33,10 @@ private:
         QString Nama_Komponen;
         Money Nilai_Komponen;
     };
-    struct DayResult {
+    /// Only one text of all days is ever shown, so none is worded before.
+    struct DayRow {
         QDate tanggal;
-        Money subtot_payroll;
-        double jml_faktor = 0;
+        Row row;
         ConditionText kondisi;
     };
 
@@ -50,24 +50,13 @@ private:
     [[nodiscard]] Row newRow(const Component& component, int type) const;
     [[nodiscard]] Row sumOfDays(const Component& component, int type, Money& total) const;
 
-    static void setAmount(Row& row, Money hasil);
-    static void setAmount(DayResult& day, Money hasil);
-    static void addAmount(Row& row, Money hasil);
-    static void addAmount(DayResult& day, Money hasil);
-    static void setText(Row& row, const ConditionText& text);
-    static void setText(DayResult& day, const ConditionText& text);
-    template <typename Target>
-    static void assign(Target& target, const Working& working);
-    template <typename Target>
-    static void merge(Target& target, const Rule& rule, Working& working);
-
     Lookups& m_lookups;
     const Window m_period;
     Line& m_line;
     const int m_emp_id_auto;
     std::vector<Row>& m_cds_sd;
     std::vector<PublishedValue> m_vir_tb3;
-    std::vector<DayResult> m_vir_tb4;
+    std::vector<DayRow> m_vir_tb4;
 };
 
 } // namespace run

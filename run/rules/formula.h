@@ -12,7 +12,6 @@ struct Working {
     double nilai_kondisi = 0; ///< how much of the condition's value lies inside the band
     double nilai_asli = 0;    ///< the condition's value as read
     double nilai_batas = 0;   ///< what a replacing row takes in place of the formula's parameter
-    double nilai_rumus = 0;
     double faktor = 0;
     Money hasil;
     ConditionText teks_kondisi;

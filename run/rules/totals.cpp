@@ -55,40 +55,6 @@ WhyLeftOut whyRemoved(const Line& line, const RemovedLine& gone) {
     return gone.hasDeductions ? WhyLeftOut::Deductions : WhyLeftOut::NothingPositive;
 }
 
-/// A run in memory as a view. Deleted lines stay in place until dropDeletedLines, since taking each out of the middle
-/// would move all behind it.
-class RunInMemory final : public RunView {
-public:
-    explicit RunInMemory(Run& run) : m_run(run), m_deleted(run.lines.size()) {}
-
-    [[nodiscard]] int lineCount() const override { return int(m_run.lines.size()); }
-    [[nodiscard]] int rowCount(int line) const override { return int(at(line).rows.size()); }
-    [[nodiscard]] RowAmount row(int line, int row) const override {
-        const Row& found = at(line).rows[std::size_t(row)];
-        return {found.type, found.subtot_payroll};
-    }
-    void setAmount(int line, int row, double subtot_payroll) override {
-        at(line).rows[std::size_t(row)].subtot_payroll = subtot_payroll;
-    }
-    [[nodiscard]] double tot_payroll(int line) const override { return at(line).tot_payroll; }
-    void setTotal(int line, double tot_payroll) override { at(line).tot_payroll = tot_payroll; }
-    void deleteRow(int line, int row) override { m_run.deleteRow(at(line), std::size_t(row)); }
-    void deleteLine(int line) override {
-        m_run.emptyLine(at(line));
-        m_deleted[std::size_t(line)] = true;
-    }
-    void dropDeletedLines() {
-        std::size_t line = 0;
-        std::erase_if(m_run.lines, [&](const Line&) { return m_deleted[line++]; });
-    }
-
-private:
-    [[nodiscard]] Line& at(int line) const { return m_run.lines[std::size_t(line)]; }
-
-    Run& m_run;
-    std::vector<bool> m_deleted;
-};
-
 } // namespace
 
 double hitung(RunView& view, double round_value) {
@@ -118,14 +84,6 @@ std::vector<RemovedLine> hitung2(RunView& view) {
         view.deleteLine(line);
         removed.push_back({line, hasDeductions});
     }
-    return removed;
-}
-
-std::vector<RemovedLine> hitung(Run& run, double round_value) {
-    RunInMemory view(run);
-    run.tot_process = hitung(view, round_value);
-    std::vector<RemovedLine> removed = hitung2(view);
-    view.dropDeletedLines();
     return removed;
 }
 

@@ -38,10 +38,7 @@ struct RemovedLine {
 };
 
 /// Deletes rows and lines without a positive amount, from the last line back. The totals stay as they are.
-std::vector<RemovedLine> hitung2(RunView& view);
-
-/// Both in turn on a run in memory.
-std::vector<RemovedLine> hitung(Run& run, double round_value);
+[[nodiscard]] std::vector<RemovedLine> hitung2(RunView& view);
 
 /// Why somebody of the chosen groups has no line in the end; the first that holds.
 enum class WhyLeftOut { Fault, NoRule, Deductions, NothingPositive };

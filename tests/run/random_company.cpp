@@ -139,10 +139,6 @@ run::SessionSelections RandomCompany::selections() {
     return chosen;
 }
 
-double RandomCompany::round_value() {
-    return draw(u"0|0|100|1000|2.5|-5"_s).toDouble();
-}
-
 QString RandomCompany::missingTable() {
     if (!once(12))
         return {};

@@ -17,7 +17,6 @@ public:
     [[nodiscard]] QString mainRows();
     [[nodiscard]] QString settingRows();
     [[nodiscard]] run::SessionSelections selections();
-    [[nodiscard]] double round_value();
     /// What the date columns of its attendance are.
     [[nodiscard]] QString dateType() const { return m_dateType; }
     /// A table that the company lacks, or none.

@@ -1,4 +1,4 @@
-#include "run/rules/totals.h"
+#include "tests/run/form_run.h"
 
 #include <QStringList>
 
@@ -8,40 +8,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using run::Line;
-using run::Row;
-using run::Run;
-
 /// Amounts of rows parted by blanks, lines by commas; "1:300" is of type 1, an amount alone of type 0, an earning.
-Run runOf(const char* lines) {
-    Run made;
+run::Run runOf(const char* lines) {
+    run::Run made;
     for (const QString& amounts : QString::fromUtf8(lines).split(u',')) {
-        Line& line = made.lines.emplace_back();
-        line.no_urut = ++made.nomor_rincian_terakhir;
+        run::Line& line = made.lines.emplace_back();
         for (const QString& amount : amounts.split(u' ', Qt::SkipEmptyParts)) {
-            Row& row = line.rows.emplace_back();
-            row.no_urut_ref = ++made.nomor_baris_terakhir;
+            run::Row& row = line.rows.emplace_back();
             row.type = amount.contains(u':') ? amount.section(u':', 0, 0).toInt() : 0;
             row.subtot_payroll = amount.section(u':', -1).toDouble();
         }
     }
     return made;
-}
-
-QString number(double value) {
-    return QString::number(value, 'f', 1).remove(u".0"_s);
-}
-
-/// "1=500 (1:300 2:200)" per line, then the total.
-std::string describe(const Run& made) {
-    QStringList lines;
-    for (const Line& line : made.lines) {
-        QStringList rows;
-        for (const Row& row : line.rows)
-            rows << u"%1:%2"_s.arg(row.no_urut_ref).arg(number(row.subtot_payroll));
-        lines << u"%1=%2 (%3)"_s.arg(line.no_urut).arg(number(line.tot_payroll), rows.join(u' '));
-    }
-    return (lines << u"total "_s + number(made.tot_process)).join(u", "_s).toStdString();
 }
 
 struct Case {
@@ -53,9 +31,9 @@ struct Case {
 
 void check(const std::vector<Case>& cases) {
     for (const Case& c : cases) {
-        Run made = runOf(c.lines);
-        hitung(made, c.round_value);
-        EXPECT_EQ(describe(made), c.expected) << c.name;
+        FormRun form(runOf(c.lines), c.round_value);
+        (void)form.copy.hitung();
+        EXPECT_EQ(form.text(), c.expected) << c.name;
     }
 }
 
@@ -65,7 +43,7 @@ TEST(Totals, RoundEachRowThenTheLine) {
     check({
         {"down to even, up to the unit", "4750300.5 250000 1:120000", 1000,
          "1=4881000 (1:4750300 2:250000 3:120000), total 4881000"},
-        {"up to even", "1501.5", 0, "1=1502 (1:1502), total 1502"},
+        {"each up to even", "1501.5 1501.5", 0, "1=3004 (1:1502 2:1502), total 3004"},
         {"four decimals before the whole number", "1500.50004 1500.50006", 0, "1=3001 (1:1500 2:1501), total 3001"},
         {"a multiple stays", "3000", 1000, "1=3000 (1:3000), total 3000"},
         {"unit above the net", "3", 500, "1=500 (1:3), total 500"},
@@ -74,6 +52,12 @@ TEST(Totals, RoundEachRowThenTheLine) {
         {"unit on a tie", "7", 2.5, "1=8 (1:7), total 8"},
         {"any type but 0 deducts", "100 2:30 -1:20", 0, "1=50 (1:100 2:30 3:20), total 50"},
     });
+}
+
+TEST(Totals, OfTheCurrentLineOnTheFormAreOfRowsRoundedOneByOne) {
+    FormRun form(runOf("1.5 1.5 1:2.5 2:0.5, 9"));
+    const run::WorkingCopy::Sums sums = form.copy.sums();
+    EXPECT_EQ(std::pair(sums.tunjangan, sums.potongan), std::pair(4.0, 2.0));
 }
 
 TEST(Totals, WrapRoundAt32Bits) {
@@ -100,11 +84,11 @@ TEST(Cleaning, TakesRowsAndLinesWithoutAPositiveAmountButNotTheirTotals) {
 }
 
 TEST(Cleaning, LeavesTotalsThatAgreeAfterTheNextPass) {
-    run::Run made = runOf("100 -30, 1:3");
-    hitung(made, 0);
-    EXPECT_EQ(describe(made), "1=70 (1:100), total 67");
-    hitung(made, 0);
-    EXPECT_EQ(describe(made), "1=100 (1:100), total 100");
+    FormRun form(runOf("100 -30, 1:3"));
+    (void)form.copy.hitung();
+    EXPECT_EQ(form.text(), "1=70 (1:100), total 67");
+    (void)form.copy.hitung();
+    EXPECT_EQ(form.text(), "1=100 (1:100), total 100");
 }
 
 TEST(Totals, AFaultEndsItsLineOrTheWalk) {
@@ -116,21 +100,17 @@ TEST(Totals, AFaultEndsItsLineOrTheWalk) {
 }
 
 TEST(Numbers, AreGivenFreeOnlyByTheLastOne) {
-    const auto last = [](const run::Run& made) {
-        return std::pair(made.nomor_rincian_terakhir, made.nomor_baris_terakhir);
-    };
-    run::Run gap = runOf("1 0 2, 0, 3");
-    hitung(gap, 0);
-    EXPECT_EQ(describe(gap), "1=3 (1:1 3:2), 3=3 (5:3), total 6");
-    EXPECT_EQ(last(gap), std::pair(3, 5));
+    FormRun gap(runOf("1 0 2, 0, 3"));
+    (void)gap.copy.hitung();
+    EXPECT_EQ(gap.text(), "1=3 (1:1 3:2), 3=3 (5:3), total 6");
     // 5 goes, 4 and 2 are gone already: the numbers stop falling at the first gap.
-    gap.clear();
-    EXPECT_EQ(last(gap), std::pair(2, 4));
+    gap.copy.deleteAllLines();
+    gap.copy.appendRun(runOf("7, 8"));
+    EXPECT_EQ(gap.text(), "3=0 (5:7), 4=0 (6:8), total 6");
 
-    run::Run end = runOf("1, 2 0 0, 1:3");
-    hitung(end, 0);
-    EXPECT_EQ(describe(end), "1=1 (1:1), 2=2 (2:2), total 0");
-    EXPECT_EQ(last(end), std::pair(2, 2));
-    end.clear();
-    EXPECT_EQ(last(end), std::pair(0, 0));
+    FormRun end(runOf("1, 2 0 0, 1:3"));
+    (void)end.copy.hitung();
+    EXPECT_EQ(end.text(), "1=1 (1:1), 2=2 (2:2), total 0");
+    end.copy.appendRun(runOf("7"));
+    EXPECT_EQ(end.text(), "1=1 (1:1), 2=2 (2:2), 3=0 (3:7), total 0");
 }
