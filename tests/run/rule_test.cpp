@@ -14,7 +14,8 @@ void check(const char* pattern, const char* cases) {
         const QString rules = QString::fromUtf8(pattern).arg(cells.at(1).simplified());
         const run::Run made = smallCompany(rules, cells.at(2)).computed();
         ASSERT_EQ(made.lines.size(), 1U) << line.toStdString();
-        EXPECT_EQ(describe(made.lines.front().rows), cells.at(3).trimmed()) << line.toStdString();
+        EXPECT_EQ(describe(made.lines.front().rows).toStdString(), cells.at(3).trimmed().toStdString())
+            << line.toStdString();
     }
 }
 
@@ -81,11 +82,18 @@ TEST(Formula, TakesWhatTheBandLeftOfItsOwnFigureAndReadsAnyOtherWhole) {
         component of that number    | if=k13 min=0 max=0 sum=f13 | f13=9       | 1: 9 x 9 (+) [])");
 }
 
-// In plain double precision each of the first two products would lie on a tie and go to the even neighbour.
+// In plain double precision each of the first seven results would lie on a tie and go to the even neighbour, or beyond
+// it.
 TEST(Formula, RoundsOnceInExtendedPrecisionAndItsFactorToTwoDecimalsLiftedFromATie) {
     check("sum=f13 %1", R"(
         just above a tie      |                           | f13=0.00025         | 1: 0.0003 x 0 (+) []
         just below a tie      |                           | f13=0.00035         | 1: 0.0003 x 0 (+) []
+        product               | op=* konst=0.115          | f13=0.03            | 1: 0.0035 x 0.03 (+) [0.115]
+        quotient              | op=/ konst=40             | f13=0.03            | 1: 0.0007 x 0.03 (+) [40]
+        sum                   | op=+ konst=0.001          | f13=0.00005         | 1: 0.0011 x 0 (+) [0.001]
+        difference            | op=- konst=0.072          | f13=0.00005         | 1: -0.0719 x 0 (+) [0.072]
+        times money           | op2=* uang=1234.5682      | f13=1000000.0022    | \
+            1: 1234568202.7161 x 1000000 (+) [* 1.235]
         on a tie, down        | op=/ konst=20000          | f13=1               | 1: 0 x 1 (+) [20000]
         on a tie, up          | op=/ konst=20000          | f13=3               | 1: 0.0002 x 3 (+) [20000]
         a third               | op=/ konst=3 op2=* uang=3 | f13=1               | 1: 0.9999 x 1 (+) [3 * 3]
