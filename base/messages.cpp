@@ -4,24 +4,12 @@
 #include "toolkit/text/sql_text.h"
 #include "toolkit/ui/handler.h"
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 
 namespace base {
 
-MessageText::MessageText(QString form, int number, QString text) :
-    m_form(std::move(form)), m_number(number), m_text(std::move(text)) {
-    declared().push_back(this);
-}
-
 QString MessageText::id() const {
-    return u"message_id[%1]"_s.arg(m_number);
-}
-
-std::vector<const MessageText*>& MessageText::declared() {
-    static std::vector<const MessageText*> messages;
-    return messages;
+    return u"message_id[%1]"_s.arg(number);
 }
 
 Messages::Messages(Session& session, const Language& language, QObject* owner) :
@@ -50,18 +38,18 @@ QString Messages::LookupMessage(const QString& messageId, const QString& text, c
 
 QString Messages::textOf(const MessageText& message) {
     try {
-        return LookupMessage(message.id(), message.text(), message.form());
+        return LookupMessage(message.id(), message.text, message.form);
     } catch (const db::Fault& fault) {
         if (!fault.isConnectionLoss())
             throw;
         // What is to be said about a lost connection would be lost with it.
         fault::reportDroppedFault("teks pesan yang tersimpan", fault);
-        return message.text();
+        return message.text;
     }
 }
 
 int Messages::show(MessageDialog& dialog, QWidget* screen, const MessageText& message, const QString& detail) {
-    const Message stored{message.form(), message.id(), textOf(message)};
+    const Message stored{message.form, message.id(), textOf(message)};
     Message shown = stored;
     shown.text.replace(u"%1"_s, detail);
     const int result = dialog.execute(screen, shown);

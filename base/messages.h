@@ -4,32 +4,17 @@
 #include "toolkit/ui/input_dialog.h"
 #include "toolkit/ui/message_dialog.h"
 
-#include <vector>
-
 namespace base {
 
 /// One message of one screen, declared once beside the screen that shows it: the number of its key and the Indonesian
 /// text that holds where the table has none.
-class MessageText final {
-public:
-    MessageText(QString form, int number, QString text);
-    MessageText(const MessageText&) = delete;
-    MessageText& operator=(const MessageText&) = delete;
+struct MessageText {
+    QString form;
+    int number;
+    QString text;
 
-    [[nodiscard]] const QString& form() const { return m_form; }
     /// "message_id[52]"
     [[nodiscard]] QString id() const;
-    [[nodiscard]] const QString& text() const { return m_text; }
-
-    /// Every message of the program.
-    [[nodiscard]] static const std::vector<const MessageText*>& all() { return declared(); }
-
-private:
-    static std::vector<const MessageText*>& declared();
-
-    QString m_form;
-    int m_number;
-    QString m_text;
 };
 
 /// The message dialogs with their texts per language, and the correction of a text from the dialog itself.

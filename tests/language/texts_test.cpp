@@ -107,23 +107,50 @@ Texts textsOfProgram() {
     return texts;
 }
 
-/// What the guards of the program name as given up: the literals stand in the sources.
-Texts droppedThings() {
-    Texts things;
-    const QRegularExpression guard(uR"re(fault::(?:dropFault|reportDroppedFault)\((?:\s*"([^"]*)")?)re"_s);
+std::vector<QString> sourcesOfProgram() {
+    std::vector<QString> sources;
     for (QDirIterator file(QStringLiteral(ORVANE_SOURCES), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
                            QDirIterator::Subdirectories);
          file.hasNext();) {
         QFile source(file.next());
-        if (file.filePath().contains(QRegularExpression(u"/(build|tests)/"_s)) || !source.open(QIODevice::ReadOnly))
-            continue;
-        const QString text = QString::fromUtf8(source.readAll());
-        for (const QRegularExpressionMatch& found : guard.globalMatch(text)) {
-            EXPECT_TRUE(found.hasCaptured(1)) << "not named by a literal: " << file.filePath().toStdString();
+        if (!file.filePath().contains(QRegularExpression(u"/(build|tests)/"_s)) && source.open(QIODevice::ReadOnly))
+            sources.push_back(QString::fromUtf8(source.readAll()));
+    }
+    return sources;
+}
+
+/// What the guards of the program name as given up: the literals stand in the sources.
+Texts droppedThings() {
+    Texts things;
+    const QRegularExpression guard(uR"re(fault::(?:dropFault|reportDroppedFault)\((?:\s*"([^"]*)")?)re"_s);
+    for (const QString& source : sourcesOfProgram())
+        for (const QRegularExpressionMatch& found : guard.globalMatch(source)) {
+            EXPECT_TRUE(found.hasCaptured(1)) << "not named by a literal: " << source.first(200).toStdString();
             things.emplace_back(u"frm_pemberitahuan\t%1\t-1"_s.arg(found.captured(1)).toLower(), found.captured(1));
         }
-    }
     return things;
+}
+
+/// The messages as they are declared, their literals put together.
+Texts messagesOfProgram() {
+    Texts messages;
+    const QRegularExpression declared(uR"re(const (?:base::)?MessageText \w+\{)re"_s);
+    const QRegularExpression whole(declared.pattern() +
+                                   uR"re(\s*(?:formName|u"(\w+)"_s),\s*(\d+),\s*((?:u?"[^"]*"(?:_s)?\s*)+)\})re"_s);
+    const QRegularExpression formName(uR"re(formName = u"(\w+)"_s)re"_s);
+    const QRegularExpression literal(uR"re("([^"]*)")re"_s);
+    for (const QString& source : sourcesOfProgram()) {
+        const std::size_t before = messages.size();
+        for (const QRegularExpressionMatch& found : whole.globalMatch(source)) {
+            const QString form = found.hasCaptured(1) ? found.captured(1) : formName.match(source).captured(1);
+            QString text;
+            for (const QRegularExpressionMatch& part : literal.globalMatch(found.captured(3)))
+                text += part.captured(1);
+            messages.emplace_back(u"%1\tmessage_id[%2]\t0"_s.arg(form, found.captured(2)).toLower(), text);
+        }
+        EXPECT_EQ(qsizetype(messages.size() - before), source.count(declared)) << source.first(200).toStdString();
+    }
+    return messages;
 }
 
 /// The statement gives the key in three columns, then the Indonesian and the English text.
@@ -154,9 +181,7 @@ TEST(LanguageTables, HoldEveryThingThatIsGivenUp) {
 }
 
 TEST(LanguageTables, HoldEveryMessageInBothLanguages) {
-    Texts texts;
-    for (const base::MessageText* message : base::MessageText::all())
-        texts.emplace_back((message->form() + u'\t' + message->id() + u"\t0"_s).toLower(), message->text());
+    const Texts texts = messagesOfProgram();
     ASSERT_GE(texts.size(), 8u);
     expectRows(texts, u"select com_form, message_id, 0, indonesia, ifnull(english, '') from tvk_message"_s);
 }
