@@ -42,8 +42,8 @@ double ppSubReport3Print(int earnings, int deductions) {
     return std::max(0, deductions - earnings) * report::lineMm + footMm;
 }
 
-QColor ppRegion3Print(int ppv_no) {
-    return ppv_no % 2 == 0 ? QColor(0xee, 0xee, 0xee) : QColor(0xfd, 0xfd, 0xfd);
+QColor ppRegion3Print(int slips) {
+    return slips % 2 == 0 ? QColor(0xee, 0xee, 0xee) : QColor(0xfd, 0xfd, 0xfd);
 }
 
 } // namespace payroll

@@ -20,6 +20,6 @@ namespace payroll {
 [[nodiscard]] double ppSubReport3Print(int earnings, int deductions);
 
 /// Background of the slip's frame, by the number of slips before it.
-[[nodiscard]] QColor ppRegion3Print(int ppv_no);
+[[nodiscard]] QColor ppRegion3Print(int slips);
 
 } // namespace payroll

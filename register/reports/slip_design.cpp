@@ -1,8 +1,6 @@
 #include "register/reports/designs.h"
 #include "register/reports/print_rules.h"
 
-#include <memory>
-
 using namespace Qt::StringLiterals;
 using report::amount;
 using report::Band;
@@ -42,18 +40,6 @@ constexpr report::Look oneLine{.fit = report::Fit::Line};
 constexpr Column leftColumn{.x = 0, .captionWidth = 27, .width = halfWidth};
 constexpr Column rightColumn{.x = rightX, .captionWidth = 27, .width = halfWidth};
 
-/// Counts the slips that were printed; the frames take their background from it.
-using Counter = std::shared_ptr<int>;
-
-report::Item ppv_no(const Counter& counter) {
-    report::Item hidden;
-    hidden.onPrint = [counter](report::Printing& item) {
-        item.visible = false;
-        ++*counter;
-    };
-    return hidden;
-}
-
 struct Employee {
     const data::DataSet& sql_detail;
     [[nodiscard]] report::Item operator()(const QString& name, report::Look look = {}) const {
@@ -61,11 +47,10 @@ struct Employee {
     }
 };
 
-std::vector<report::Part> head(const Sources& sources, const Wording& wording, const Counter& counter) {
+std::vector<report::Part> head(const Sources& sources, const Wording& wording) {
     const report::Captions& captions = wording.captions;
     const Employee employee{sources.sql_detail};
     Band first{.name = u"head"_s};
-    first.items.push_back(ppv_no(counter));
     addValue(first, leftColumn, captions[u"ppl_nama_perusahaan"_s], label({}, wording.heading.ppl_nama_persh));
     addValue(first, rightColumn, captions[u"ppl_nik"_s], employee(u"nik"_s));
     Band second{.name = u"head"_s};
@@ -189,12 +174,13 @@ std::vector<report::Part> Foot::bands() const {
 } // namespace
 
 report::Report slipDesign(const Sources& sources, const Wording& wording) {
-    const auto counter = std::make_shared<int>(0);
-    std::vector<report::Part> parts = head(sources, wording, counter);
+    std::vector<report::Part> parts = head(sources, wording);
     parts.emplace_back(lists(sources, wording.captions));
     for (report::Part& band : Foot(sources, wording).bands())
         parts.push_back(std::move(band));
-    const auto frame = [counter](report::Printing& slip) { slip.fill = ppRegion3Print(*counter); };
+    const auto frame = [&slips = sources.sql_detail](report::Printing& slip) {
+        slip.fill = ppRegion3Print(slips.row());
+    };
     return {.title = u"Slip penggajian"_s,
             .master = &sources.sql_detail,
             .section = {.parts = std::move(parts),
