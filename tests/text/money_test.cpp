@@ -45,6 +45,19 @@ TEST(Rounding, OfDecimalsLiftsATie) {
     EXPECT_EQ(outcome([] { return bulat_desimal(1e17); }), "fault");
 }
 
+TEST(Rounding, GoesUpToAMultipleAndLeavesWhatIsOne) {
+    const std::tuple<qint32, qint32, qint32> cases[] = {{1001, 500, 1500},
+                                                        {1500, 500, 1500},
+                                                        {1, 1, 1},
+                                                        {0, 100, 0},
+                                                        {-1, 100, -1},
+                                                        {1, -100, -100},
+                                                        {2147483647, 100, -2147483596}};
+    for (const auto& [value, unit, expected] : cases)
+        EXPECT_EQ(bulat_ke_atas(value, unit), expected) << value;
+    EXPECT_EQ(outcome([] { return double(bulat_ke_atas(5, 0)); }), "fault");
+}
+
 TEST(Wrapping, ComesBackFromTheOtherEnd) {
     EXPECT_EQ(wrapped32(2147483648), -2147483648LL);
     EXPECT_EQ(wrapped32(4294967297), 1);

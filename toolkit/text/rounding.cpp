@@ -32,6 +32,13 @@ double bulat_desimal(Extended x) {
     return double(Extended(rounded64(x * 100 + 0.01L)) / 100);
 }
 
+qint32 bulat_ke_atas(qint32 x, qint32 unit) {
+    if (unit == 0)
+        throw ArithmeticFault("Division by zero");
+    const qint64 remainder = qint64(x) % unit;
+    return remainder > 0 ? wrapped32(x - remainder + unit) : x;
+}
+
 qint32 wrapped32(qint64 value) {
     return qint32(quint32(quint64(value)));
 }

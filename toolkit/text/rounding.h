@@ -27,6 +27,10 @@ public:
 /// lifts a value on a tie. Throws ArithmeticFault where x times 100 does not fit 64 bits.
 [[nodiscard]] double bulat_desimal(Extended x);
 
+/// Up to a multiple of the unit: a value whose remainder is above 0 loses it and gains one unit. Throws ArithmeticFault
+/// on a unit of 0.
+[[nodiscard]] qint32 bulat_ke_atas(qint32 x, qint32 unit);
+
 /// 32-bit arithmetic that wraps round: what is beyond 2^31 - 1 comes back from below.
 [[nodiscard]] qint32 wrapped32(qint64 value);
 [[nodiscard]] qint32 wrappedSum(qint32 a, qint32 b);
