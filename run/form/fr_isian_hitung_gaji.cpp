@@ -93,7 +93,7 @@ void Tfrm_isian_hitung_gaji::set_up() {
     m_ui->dbg_sd->setDataSet(&m_copy.cds_sd);
     m_ui->dbe_nama->bind(m_copy.cds_m, u"process_name"_s);
     m_ui->dbe_bulat->bind(m_copy.cds_m, u"round_value"_s);
-    m_ui->dbe_bulat->acceptDigitsOnly();
+    acceptOnly(*m_ui->dbe_bulat, u"0123456789"_s, 9);
     m_ui->dbe_total->bind(m_copy.cds_m, u"tot_process"_s);
     m_ui->dbe_total->showMoney();
     m_ui->dbtp_tgl_aw->bind(m_copy.cds_m, u"date1"_s);

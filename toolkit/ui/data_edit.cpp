@@ -22,6 +22,11 @@ void followSet(data::DataSet& set, Edit* edit, void (Edit::*show)()) {
 
 } // namespace
 
+void acceptOnly(QLineEdit& edit, const QString& characters, int atMost) {
+    const QString pattern = u"[%1]{0,%2}"_s.arg(QRegularExpression::escape(characters)).arg(atMost);
+    edit.setValidator(new QRegularExpressionValidator(QRegularExpression(pattern), &edit));
+}
+
 DataEdit::DataEdit(QWidget* parent) : QLineEdit(parent) {}
 
 void DataEdit::bind(data::DataSet& set, const QString& field) {
@@ -31,10 +36,6 @@ void DataEdit::bind(data::DataSet& set, const QString& field) {
     connect(&set, &data::DataSet::flushRequested, this, &DataEdit::writeValue);
     connect(this, &QLineEdit::editingFinished, this, &DataEdit::writeValue);
     showValue();
-}
-
-void DataEdit::acceptDigitsOnly() {
-    setValidator(new QRegularExpressionValidator(QRegularExpression(u"[0-9]{0,9}"_s), this));
 }
 
 void DataEdit::showValue() {

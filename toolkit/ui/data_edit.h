@@ -5,6 +5,9 @@
 #include <QDateEdit>
 #include <QLineEdit>
 
+/// Lets only these characters through to the edit, and at most so many of them.
+void acceptOnly(QLineEdit& edit, const QString& characters, int atMost);
+
 /// A text edit on a field of a data set: shows the current record's value, writes what was typed when it is left.
 class DataEdit final : public QLineEdit {
     Q_OBJECT
@@ -13,8 +16,6 @@ public:
     explicit DataEdit(QWidget* parent = nullptr);
 
     void bind(data::DataSet& set, const QString& field);
-    /// Lets through digits only.
-    void acceptDigitsOnly();
     /// Shows the value as whole rupiah.
     void showMoney() { m_money = true; }
 
