@@ -72,12 +72,23 @@ Tfrm_menu::Tfrm_menu(QString folder, base::Clock clock, base::UserSettingReader 
     m_ui->filter->attach(m_session);
     m_ui->pnl_emp->hide();
     setUpRecap();
+    setUpEntrances();
     connectHandlers();
-    for (const Icon icon : {KomponenGaji, ProsesPenggajian, PinjamanKaryawan})
-        setWorkspace(icon, {});
 }
 
 Tfrm_menu::~Tfrm_menu() = default;
+
+void Tfrm_menu::setUpEntrances() {
+    m_entrances = {{{m_ui->Image1, m_ui->lbl_1, &Tfrm_menu::Image1Click},
+                    {m_ui->Image2, m_ui->lbl_2, &Tfrm_menu::Image2Click},
+                    {m_ui->Image3, m_ui->lbl_3, &Tfrm_menu::Image3Click}}};
+    for (const Entrance& entrance : m_entrances) {
+        onEvent(entrance.image, &MagnifyingImage::clicked, this, entrance.click);
+        onEvent(entrance.label, &ClickLabel::clicked, this, entrance.click);
+    }
+    for (const Icon icon : {KomponenGaji, ProsesPenggajian, PinjamanKaryawan})
+        setWorkspace(icon, {});
+}
 
 void Tfrm_menu::setUpRecap() {
     m_ui->dbg_rekap->setColumns(frame::recap::columns(), frame::recap::bands());
@@ -86,12 +97,6 @@ void Tfrm_menu::setUpRecap() {
 }
 
 void Tfrm_menu::connectHandlers() {
-    onEvent(m_ui->Image1, &MagnifyingImage::clicked, this, &Tfrm_menu::Image1Click);
-    onEvent(m_ui->lbl_1, &ClickLabel::clicked, this, &Tfrm_menu::Image1Click);
-    onEvent(m_ui->Image2, &MagnifyingImage::clicked, this, &Tfrm_menu::Image2Click);
-    onEvent(m_ui->lbl_2, &ClickLabel::clicked, this, &Tfrm_menu::Image2Click);
-    onEvent(m_ui->Image3, &MagnifyingImage::clicked, this, &Tfrm_menu::Image3Click);
-    onEvent(m_ui->lbl_3, &ClickLabel::clicked, this, &Tfrm_menu::Image3Click);
     onEvent(m_ui->filter, &base::FilterBlock::searchWanted, this, &Tfrm_menu::btn_cariClick);
     onEvent(m_ui->filter, &base::FilterBlock::valueChosen, this, &Tfrm_menu::criteriaChosen);
     onEvent(m_ui->btn_userlog, &QPushButton::clicked, this, &Tfrm_menu::btn_userlogClick);
@@ -109,8 +114,8 @@ bool Tfrm_menu::FormCreate() {
         showFault(nullptr, fault);
         return false;
     }
-    for (MagnifyingImage* image : {m_ui->Image1, m_ui->Image2, m_ui->Image3})
-        image->setMagnification(imageMagnification);
+    for (const Entrance& entrance : m_entrances)
+        entrance.image->setMagnification(imageMagnification);
     fault::dropFault("pembukaan sesi basis data", [this] { frame::openSessions(m_folder, *m_ping, m_session); });
     first_activate = m_session.ADOConn.isOpen();
     if (first_activate)
@@ -245,11 +250,10 @@ void Tfrm_menu::Timer1Timer() {
 }
 
 void Tfrm_menu::setWorkspace(Icon icon, WorkspaceFactory factory) {
-    const std::array images{m_ui->Image1, m_ui->Image2, m_ui->Image3};
-    const std::array labels{m_ui->lbl_1, m_ui->lbl_2, m_ui->lbl_3};
-    images[icon]->setEnabled(bool(factory));
-    labels[icon]->setEnabled(bool(factory));
-    m_factories[icon] = std::move(factory);
+    Entrance& entrance = m_entrances[icon];
+    entrance.image->setEnabled(bool(factory));
+    entrance.label->setEnabled(bool(factory));
+    entrance.make = std::move(factory);
 }
 
 void Tfrm_menu::CloseChildForms() {
@@ -271,7 +275,7 @@ void Tfrm_menu::openWorkspace(Icon icon) {
     QTimer::singleShot(0, m_ui->pnl_atas, [panel = m_ui->pnl_atas] { panel->setEnabled(true); });
     m_ui->filter->select(base::FilterBlock::Semua);
     CloseChildForms();
-    m_workspace = m_factories[icon](m_services, m_ui->centralwidget);
+    m_workspace = m_entrances[icon].make(m_services, m_ui->centralwidget);
     connect(m_workspace, &Workspace::coversPanels, this, [this] { showRecap(false); });
     connect(m_workspace, &Workspace::closed, this, [this, closing = m_workspace.data()] {
         if (m_workspace == closing)

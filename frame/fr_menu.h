@@ -16,6 +16,9 @@
 #include <memory>
 #include <optional>
 
+class ClickLabel;
+class MagnifyingImage;
+
 namespace Ui {
 class frm_menu;
 }
@@ -67,6 +70,15 @@ private:
     void Timer1Timer();
     void criteriaChosen();
 
+    /// What opens one workspace.
+    struct Entrance {
+        MagnifyingImage* image;
+        ClickLabel* label;
+        void (Tfrm_menu::*click)();
+        WorkspaceFactory make{};
+    };
+
+    void setUpEntrances();
     void connectHandlers();
     void setUpRecap();
     void openWorkspace(Icon icon);
@@ -82,8 +94,8 @@ private:
     base::Services m_services;
     base::Session& m_session = m_services.session;
     std::optional<platform::PingSocket> m_ping;
-    std::array<WorkspaceFactory, iconCount> m_factories;
-    QPointer<Workspace> m_workspace; ///< the one that is open
+    std::array<Entrance, iconCount> m_entrances; ///< by Icon
+    QPointer<Workspace> m_workspace;             ///< the one that is open
     frame::recap::ColourSettings m_colours;
     std::unique_ptr<data::SqlQuery> sql_rekap;
     QTimer Timer1; ///< shows the quick guide a second after the start
