@@ -97,9 +97,10 @@ void FilterBlock::fillTree() {
 }
 
 void FilterBlock::applySessionBranch() {
-    if (!m_session->session_cab_id.isLimited())
+    const std::optional<qint32> branch = m_session->branch();
+    if (!branch)
         return;
-    m_filter_cab_id = m_session->session_cab_id.cab_id_auto();
+    m_filter_cab_id = *branch;
     m_ui->lookup_cab->setKey(m_filter_cab_id);
     m_ui->lookup_cab->setEnabled(false);
 }

@@ -1,5 +1,6 @@
 #include "base/language.h"
 
+#include "base/look_up.h"
 #include "schema/settings_keys.h"
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/sql_text.h"
@@ -105,9 +106,8 @@ void Language::ApplyLanguage(QWidget& form) {
 }
 
 void Language::applyRows(QWidget& form) {
+    m_lang_column = readSetting(m_session.ADOConn_lang, schema::defaultLang);
     data::SqlQuery& sql = m_session.sql_temp_lang;
-    sql.openSql(u"select param_value from global_setting where param_id='"_s + schema::defaultLang + "' "_L1);
-    m_lang_column = sql.text(u"param_value");
     sql.openSql(u"select * from change_lang where com_form="_s + quotedSqlText(form.objectName()) + u' ');
     for (; !sql.isEof(); sql.next()) {
         const QString text = sql.text(m_lang_column);

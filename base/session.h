@@ -8,6 +8,7 @@
 #include <QString>
 
 #include <functional>
+#include <optional>
 
 namespace base {
 
@@ -51,6 +52,11 @@ struct Session {
     data::SqlQuery sql_temp_lang{ADOConn_lang};
     data::SqlQuery sql_cek_lang{ADOConn_lang};
     data::SqlQuery sql_cek_lang2{ADOConn_lang};
+
+    /// The one branch that limits the session, 0 where nobody is seen; none where nothing limits it.
+    [[nodiscard]] std::optional<qint32> branch() const {
+        return session_cab_id.isLimited() ? std::optional(session_cab_id.cab_id_auto()) : std::nullopt;
+    }
 
     Clock clock;
     QString login_id;      ///< who is logged in at the suite, as the launcher passed it

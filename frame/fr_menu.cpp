@@ -1,6 +1,7 @@
 #include "frame/fr_menu.h"
 
 #include "base/log.h"
+#include "base/look_up.h"
 #include "frame/connect.h"
 #include "frame/fr_userlog.h"
 #include "frame/recap.h"
@@ -182,9 +183,7 @@ void Tfrm_menu::keyPressEvent(QKeyEvent* event) {
 }
 
 void Tfrm_menu::read_change_lang() {
-    data::SqlQuery& sql = m_session.sql_cek_lang;
-    sql.openSql(u"select param_value from global_setting where param_id='"_s + schema::changeLang + "' "_L1);
-    m_services.messages.allowEditing(sql.text(u"param_value") != "0"_L1);
+    m_services.messages.allowEditing(base::readSetting(m_session.ADOConn_lang, schema::changeLang) != "0"_L1);
 }
 
 void Tfrm_menu::read_periode() {

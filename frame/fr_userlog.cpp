@@ -1,5 +1,6 @@
 #include "frame/fr_userlog.h"
 
+#include "base/look_up.h"
 #include "schema/settings_keys.h"
 #include "toolkit/text/sql_text.h"
 #include "toolkit/ui/caption.h"
@@ -83,9 +84,8 @@ void Tfrm_userlog::set_tanggal() {
 }
 
 void Tfrm_userlog::set_modul() {
-    data::SqlQuery& sql = m_services.session.sql_temp_lang;
-    sql.openSql(u"select * from global_setting where param_id='"_s + schema::usePayrollModule + "' "_L1);
-    if (sql.text(u"param_value") == "-1"_L1 || m_ui->cmb_modul->count() <= base::payrollModule)
+    const QString isUsed = base::readSetting(m_services.session.ADOConn_lang, schema::usePayrollModule);
+    if (isUsed == "-1"_L1 || m_ui->cmb_modul->count() <= base::payrollModule)
         return;
     const bool wasChosen = m_ui->cmb_modul->currentIndex() == base::payrollModule;
     m_ui->cmb_modul->removeItem(base::payrollModule);

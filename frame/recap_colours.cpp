@@ -1,5 +1,6 @@
 #include "frame/recap_colours.h"
 
+#include "base/look_up.h"
 #include "schema/settings_keys.h"
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/bool_text.h"
@@ -13,11 +14,6 @@ using namespace Qt::StringLiterals;
 namespace frame::recap {
 
 namespace {
-
-QString valueOf(base::Session& session, QLatin1String key) {
-    session.sql_temp_lang.openSql(u"Select * from global_setting where param_id='"_s + key + u"' "_s);
-    return session.sql_temp_lang.text(u"param_value"_s);
-}
 
 constexpr std::pair<QLatin1String, bool ColourSettings::*> flags[] = {
     {schema::clTerlambatSet, &ColourSettings::cl_terlambat_set},
@@ -63,7 +59,7 @@ ColourSettings readColourSettings(base::Session& session) {
     const auto read = [&](QLatin1String key, auto& field, auto fromText) {
         fault::dropFault("pengaturan warna rekap", [&] {
             // A key that is not there is no fault.
-            if (const QString value = valueOf(session, key); !value.isEmpty())
+            if (const QString value = base::readSetting(session.ADOConn_lang, key); !value.isEmpty())
                 field = fromText(value);
         });
     };

@@ -1,5 +1,6 @@
 #include "register/fr_hitung_gaji.h"
 
+#include "base/look_up.h"
 #include "base/tick_list.h"
 #include "toolkit/fault/drop_fault.h"
 #include "toolkit/text/number_text.h"
@@ -242,9 +243,8 @@ void Tfrm_hitung_gaji::btn_editClick() {
     if (!base::goToOnlyTicked(cds_m, m_services.messages, this, lebih_dari_satu))
         return;
     const int process_id = cds_m.integer32(u"process_id");
-    data::SqlQuery& sql = m_services.session.sql_cek;
-    sql.openSql(u"select process_id from z_pay_process_m where process_id=%1 "_s.arg(process_id));
-    if (!sql.isEmpty()) {
+    if (base::countOf(m_services.session.ADOConn,
+                      u"select count(*) from z_pay_process_m where process_id=%1"_s.arg(process_id)) > 0) {
         open_form({.mode = EntryMode::Edit, .process_id = process_id});
         return;
     }

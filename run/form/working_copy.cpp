@@ -1,5 +1,6 @@
 #include "run/form/working_copy.h"
 
+#include "base/look_up.h"
 #include "run/form/form_run_view.h"
 #include "toolkit/db/transaction.h"
 #include "toolkit/fault/drop_fault.h"
@@ -79,9 +80,7 @@ int WorkingCopy::lastValue(const data::DataSet& set, QStringView field) {
 }
 
 void WorkingCopy::cds_mNewRecord() {
-    data::SqlQuery sql(m_main, u"select max(process_id) as process_id from z_pay_process_m "_s);
-    sql.open();
-    cds_m.setValue(u"process_id", sql.integer(u"process_id") + 1);
+    cds_m.setValue(u"process_id", base::nextKey(m_main, u"z_pay_process_m", u"process_id"));
     stamp();
 }
 
