@@ -53,12 +53,4 @@ bool goToOnlyTicked(data::DataSet& list, Messages& messages, QWidget* screen, co
     return count == 1;
 }
 
-bool askForTicked(data::DataSet& list, Messages& messages, QWidget* screen, const MessageText& question,
-                  const std::function<void()>& action) {
-    if (list.isEmpty() || !messages.confirm(screen, question))
-        return false;
-    forEachTicked(list, action);
-    return true;
-}
-
 } // namespace base

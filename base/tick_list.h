@@ -24,9 +24,4 @@ void forEachTicked(data::DataSet& list, const std::function<void()>& action);
 /// user is told.
 [[nodiscard]] bool goToOnlyTicked(data::DataSet& list, Messages& messages, QWidget* screen, const MessageText& several);
 
-/// For deletions: asks whether there are rows at all, then calls the action on each ticked row. False where the user
-/// said no.
-bool askForTicked(data::DataSet& list, Messages& messages, QWidget* screen, const MessageText& question,
-                  const std::function<void()>& action);
-
 } // namespace base

@@ -1,5 +1,6 @@
 #include "register/fr_hitung_gaji.h"
 
+#include "base/delete_ticked.h"
 #include "base/look_up.h"
 #include "base/tick_list.h"
 #include "toolkit/fault/drop_fault.h"
@@ -253,32 +254,31 @@ void Tfrm_hitung_gaji::btn_editClick() {
 }
 
 void Tfrm_hitung_gaji::btn_hapusClick() {
-    try {
-        if (base::askForTicked(cds_m, m_services.messages, this, yakin_hapus, [this] { delete_current_run(); }))
-            show_what_is_left();
-    } catch (const std::exception&) {
-        fault::dropFault("penyegaran daftar perhitungan", [this] { show_what_is_left(); });
-        throw;
-    }
+    const auto run = [this] {
+        return u"%1, %2 -- %3"_s.arg(cds_m.text(u"process_name"), isoDate(cds_m.date(u"date1")),
+                                     isoDate(cds_m.date(u"date2")));
+    };
+    // The header goes last: a run of which something was left can still be seen.
+    const auto statements = [this] {
+        const QString statement = u"Delete From %1 Where process_id=%2 "_s;
+        const QString process_id = cds_m.text(u"process_id");
+        return QStringList{statement.arg(u"z_pay_process_sd"_s, process_id),
+                           statement.arg(u"z_pay_process_d"_s, process_id),
+                           statement.arg(u"z_pay_process_m"_s, process_id)};
+    };
+    base::deleteTicked(cds_m, m_services, *this,
+                       {.question = yakin_hapus,
+                        .action = captionText(m_ui->btn_hapus->text()),
+                        .what = run,
+                        .statements = statements,
+                        .giveUp =
+                            [](const std::exception& refused) {
+                                fault::reportDroppedFault("penghapusan data perhitungan gaji", refused);
+                            },
+                        .refresh = [this] { show_what_is_left(); }});
 }
 
 void Tfrm_hitung_gaji::show_what_is_left() {
     open_list();
     fault::dropFault("daftar di bawah daftar perhitungan", [this] { dbg_mClick(); });
-}
-
-void Tfrm_hitung_gaji::delete_current_run() {
-    m_services.log(*this, captionText(m_ui->btn_hapus->text()),
-                   u"%1, %2 -- %3"_s.arg(cds_m.text(u"process_name"), isoDate(cds_m.date(u"date1")),
-                                         isoDate(cds_m.date(u"date2"))));
-    for (const char16_t* table : {u"z_pay_process_sd", u"z_pay_process_d", u"z_pay_process_m"})
-        try {
-            m_services.session.ADOCom_update.execute(
-                u"Delete From %1 Where process_id=%2 "_s.arg(QString::fromUtf16(table), cds_m.text(u"process_id")));
-        } catch (const db::Fault& refused) {
-            // Whoever stops a deletion means all of it. The header goes last, so the run can still be seen.
-            if (refused.isInterrupted())
-                throw;
-            fault::reportDroppedFault("penghapusan data perhitungan gaji", refused);
-        }
 }

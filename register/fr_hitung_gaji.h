@@ -55,7 +55,6 @@ private:
     void show_what_is_left();
     void show_sums(const QString& between);
     void show_true_sum();
-    void delete_current_run();
     /// The runs to print; none, with a message, where none is ticked.
     [[nodiscard]] std::optional<payroll::Request> ticked_runs();
     /// Throws report::NoRoom.
