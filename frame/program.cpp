@@ -3,6 +3,7 @@
 #include "base/log.h"
 #include "frame/fr_menu.h"
 #include "register/fr_hitung_gaji.h"
+#include "structure/fr_komponen.h"
 
 #include <QApplication>
 #include <QIcon>
@@ -54,6 +55,9 @@ bool Program::openFrame() {
     m_frame->session().ADOConn_lang.close();
     for (int panel = 0; panel < Tfrm_menu::panelCount; ++panel)
         m_frame->setPanelText(panel, argument(firstPanelArgument + panel));
+    m_frame->setWorkspace(Tfrm_menu::KomponenGaji, [](base::Services& services, QWidget* parent) -> Workspace* {
+        return new Tfrm_komponen(services, parent);
+    });
     m_frame->setWorkspace(Tfrm_menu::ProsesPenggajian, [](base::Services& services, QWidget* parent) -> Workspace* {
         return new Tfrm_hitung_gaji(services, parent);
     });
