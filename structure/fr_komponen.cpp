@@ -40,11 +40,11 @@ void Tfrm_komponen::set_up() {
                                 {u"com_kode"_s, u"Kode"_s},
                                 {u"com_name"_s, u"Nama komponen"_s},
                                 {u"jenis"_s, u"Jenis"_s},
-                                {u"fluctuate"_s, u"Berubah-ubah"_s},
-                                {u"param"_s, u"Bagian dari formula"_s},
-                                {u"disetahunkan"_s, u"Disetahunkan"_s},
-                                {u"pinjaman"_s, u"Pinjaman"_s},
-                                {u"take_home_pay"_s, u"Take home pay"_s},
+                                {u"fluctuate"_s, u"Berubah-ubah"_s, Show::Mark},
+                                {u"param"_s, u"Bagian dari formula"_s, Show::Mark},
+                                {u"disetahunkan"_s, u"Disetahunkan"_s, Show::Mark},
+                                {u"pinjaman"_s, u"Pinjaman"_s, Show::Mark},
+                                {u"take_home_pay"_s, u"Take home pay"_s, Show::Mark},
                                 {u"pembayaran"_s, u"Pembayaran"_s},
                                 {u"no_urut"_s, u"No urut"_s},
                                 {u"lastupdate_date"_s, u"Log tanggal"_s, Show::Moment},
@@ -64,6 +64,7 @@ void Tfrm_komponen::connect_handlers() {
 
 void Tfrm_komponen::FormActivate() {
     open_components();
+    (m_ui->dbg_comp->isEnabled() ? static_cast<QWidget*>(m_ui->dbg_comp) : m_ui->btn_tambah)->setFocus();
 }
 
 void Tfrm_komponen::FormClose() {

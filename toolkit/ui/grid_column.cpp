@@ -63,6 +63,8 @@ QString GridColumn::displayText(const QVariant& value) const {
         return data::dateOf(value).toString(u"dd/MM/yyyy"_s);
     case Show::Moment:
         return data::momentOf(value).toString(u"dd/MM/yyyy HH:mm"_s);
+    case Show::Mark:
+        return data::integerOf(value) == -1 ? QString(QChar(0x2713)) : QString();
     case Show::Tick:
         return {};
     case Show::Plain:

@@ -11,6 +11,7 @@ enum class Show {
     Factor, ///< grouped, up to two decimals, lined up at the comma
     Date,   ///< dd/MM/yyyy
     Moment, ///< dd/MM/yyyy HH:mm
+    Mark,   ///< a check mark where the value is -1
     Tick,   ///< a mark that the user sets and clears, -1 and 0
 };
 

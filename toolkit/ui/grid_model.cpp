@@ -94,6 +94,8 @@ QVariant GridModel::data(const QModelIndex& index, int role) const {
     case Qt::EditRole:
         return column.editText(value);
     case Qt::TextAlignmentRole:
+        if (column.show() == Show::Mark)
+            return Qt::AlignCenter;
         return QVariant::fromValue(isNumber(index.column()) ? Qt::AlignRight | Qt::AlignVCenter
                                                             : Qt::AlignLeft | Qt::AlignVCenter);
     case Qt::CheckStateRole:
