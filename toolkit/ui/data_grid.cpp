@@ -99,6 +99,14 @@ int DataGrid::columnOf(QStringView field) const {
     return -1;
 }
 
+std::vector<int> DataGrid::selectedRows() const {
+    std::vector<int> rows;
+    for (const QModelIndex& index : selectionModel()->selectedRows())
+        rows.push_back(index.row());
+    std::ranges::sort(rows);
+    return rows;
+}
+
 void DataGrid::followCursor() {
     const QScopedValueRollback following(m_following, true);
     if (!dataSet()->isOpen() || dataSet()->isEmpty())

@@ -18,6 +18,11 @@ public:
     void setDataSet(data::DataSet* set);
     [[nodiscard]] data::DataSet* dataSet() const { return m_model->dataSet(); }
     void setCellColour(CellColour rule) { m_model->setCellColour(std::move(rule)); }
+    void setCellOpen(CellOpen rule) { m_model->setCellOpen(std::move(rule)); }
+    /// Rows are selected as in a list of files; without it the current row alone is.
+    void selectSeveralRows() { setSelectionMode(ExtendedSelection); }
+    /// From the top.
+    [[nodiscard]] std::vector<int> selectedRows() const;
 
     [[nodiscard]] const std::vector<GridColumn*>& columns() const { return m_model->columns(); }
     [[nodiscard]] const GridModel& rows() const { return *m_model; }

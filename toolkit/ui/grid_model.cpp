@@ -134,6 +134,6 @@ Qt::ItemFlags GridModel::flags(const QModelIndex& index) const {
     const GridColumn& column = *m_columns[std::size_t(index.column())];
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
     flags.setFlag(Qt::ItemIsUserCheckable, column.show() == Show::Tick);
-    flags.setFlag(Qt::ItemIsEditable, column.isEditable());
+    flags.setFlag(Qt::ItemIsEditable, column.isEditable() && (!m_cellOpen || m_cellOpen(column, index.row())));
     return flags;
 }

@@ -18,6 +18,8 @@ struct CellInView {
 };
 /// The background that a cell shall have; an invalid colour leaves it as it is.
 using CellColour = std::function<QColor(const CellInView&)>;
+/// Whether a cell of an editable column takes text.
+using CellOpen = std::function<bool(const GridColumn& column, int row)>;
 
 /// Shows the records of a data set as rows and the columns of a grid as columns. Holds no data of its own.
 class GridModel final : public QAbstractTableModel {
@@ -31,6 +33,7 @@ public:
     void setColumns(std::vector<GridColumn*> columns);
     [[nodiscard]] const std::vector<GridColumn*>& columns() const { return m_columns; }
     void setCellColour(CellColour rule) { m_cellColour = std::move(rule); }
+    void setCellOpen(CellOpen rule) { m_cellOpen = std::move(rule); }
 
     [[nodiscard]] int rowCount(const QModelIndex& parent = {}) const override;
     [[nodiscard]] int columnCount(const QModelIndex& parent = {}) const override;
@@ -52,4 +55,5 @@ private:
     std::vector<GridColumn*> m_columns;
     std::vector<int> m_fields; ///< place of each column's field in the set, -1 where it has none
     CellColour m_cellColour;
+    CellOpen m_cellOpen; ///< none: each does
 };
