@@ -16,39 +16,45 @@ constexpr quint32 systemColour = 0xff000000;
 constexpr quint32 noColour = 0x1fffffff;
 constexpr quint32 defaultColour = 0x20000000;
 
-// Palette roles by the place of the system colour.
-constexpr QPalette::ColorRole systemRoles[] = {
-    QPalette::Window,          // clScrollBar
-    QPalette::Window,          // clBackground
-    QPalette::Highlight,       // clActiveCaption
-    QPalette::Mid,             // clInactiveCaption
-    QPalette::Base,            // clMenu
-    QPalette::Base,            // clWindow
-    QPalette::Shadow,          // clWindowFrame
-    QPalette::Text,            // clMenuText
-    QPalette::Text,            // clWindowText
-    QPalette::HighlightedText, // clCaptionText
-    QPalette::Mid,             // clActiveBorder
-    QPalette::Midlight,        // clInactiveBorder
-    QPalette::Dark,            // clAppWorkSpace
-    QPalette::Highlight,       // clHighlight
-    QPalette::HighlightedText, // clHighlightText
-    QPalette::Button,          // clBtnFace
-    QPalette::Dark,            // clBtnShadow
-    QPalette::Mid,             // clGrayText
-    QPalette::ButtonText,      // clBtnText
-    QPalette::WindowText,      // clInactiveCaptionText
-    QPalette::Light,           // clBtnHighlight
-    QPalette::Shadow,          // cl3DDkShadow
-    QPalette::Midlight,        // cl3DLight
-    QPalette::ToolTipText,     // clInfoText
-    QPalette::ToolTipBase,     // clInfoBk
-    QPalette::Window,          // unused place
-    QPalette::Link,            // clHotLight
-    QPalette::Highlight,       // clGradientActiveCaption
-    QPalette::Mid,             // clGradientInactiveCaption
-    QPalette::Highlight,       // clMenuHighlight
-    QPalette::Window,          // clMenuBar
+/// A colour that follows the look of the screen.
+struct SystemColour {
+    QLatin1String name; ///< empty: the place has none
+    QPalette::ColorRole role;
+};
+
+// By the place that a number names.
+constexpr SystemColour systemColours[] = {
+    {"clScrollBar"_L1, QPalette::Window},
+    {"clBackground"_L1, QPalette::Window},
+    {"clActiveCaption"_L1, QPalette::Highlight},
+    {"clInactiveCaption"_L1, QPalette::Mid},
+    {"clMenu"_L1, QPalette::Base},
+    {"clWindow"_L1, QPalette::Base},
+    {"clWindowFrame"_L1, QPalette::Shadow},
+    {"clMenuText"_L1, QPalette::Text},
+    {"clWindowText"_L1, QPalette::Text},
+    {"clCaptionText"_L1, QPalette::HighlightedText},
+    {"clActiveBorder"_L1, QPalette::Mid},
+    {"clInactiveBorder"_L1, QPalette::Midlight},
+    {"clAppWorkSpace"_L1, QPalette::Dark},
+    {"clHighlight"_L1, QPalette::Highlight},
+    {"clHighlightText"_L1, QPalette::HighlightedText},
+    {"clBtnFace"_L1, QPalette::Button},
+    {"clBtnShadow"_L1, QPalette::Dark},
+    {"clGrayText"_L1, QPalette::Mid},
+    {"clBtnText"_L1, QPalette::ButtonText},
+    {"clInactiveCaptionText"_L1, QPalette::WindowText},
+    {"clBtnHighlight"_L1, QPalette::Light},
+    {"cl3DDkShadow"_L1, QPalette::Shadow},
+    {"cl3DLight"_L1, QPalette::Midlight},
+    {"clInfoText"_L1, QPalette::ToolTipText},
+    {"clInfoBk"_L1, QPalette::ToolTipBase},
+    {""_L1, QPalette::Window},
+    {"clHotLight"_L1, QPalette::Link},
+    {"clGradientActiveCaption"_L1, QPalette::Highlight},
+    {"clGradientInactiveCaption"_L1, QPalette::Mid},
+    {"clMenuHighlight"_L1, QPalette::Highlight},
+    {"clMenuBar"_L1, QPalette::Window},
 };
 
 const QHash<QString, quint32>& namedColours() {
@@ -65,47 +71,12 @@ const QHash<QString, quint32>& namedColours() {
     return names;
 }
 
-// In the order of systemRoles.
-constexpr QLatin1String systemNames[] = {
-    "clScrollBar"_L1,
-    "clBackground"_L1,
-    "clActiveCaption"_L1,
-    "clInactiveCaption"_L1,
-    "clMenu"_L1,
-    "clWindow"_L1,
-    "clWindowFrame"_L1,
-    "clMenuText"_L1,
-    "clWindowText"_L1,
-    "clCaptionText"_L1,
-    "clActiveBorder"_L1,
-    "clInactiveBorder"_L1,
-    "clAppWorkSpace"_L1,
-    "clHighlight"_L1,
-    "clHighlightText"_L1,
-    "clBtnFace"_L1,
-    "clBtnShadow"_L1,
-    "clGrayText"_L1,
-    "clBtnText"_L1,
-    "clInactiveCaptionText"_L1,
-    "clBtnHighlight"_L1,
-    "cl3DDkShadow"_L1,
-    "cl3DLight"_L1,
-    "clInfoText"_L1,
-    "clInfoBk"_L1,
-    ""_L1,
-    "clHotLight"_L1,
-    "clGradientActiveCaption"_L1,
-    "clGradientInactiveCaption"_L1,
-    "clMenuHighlight"_L1,
-    "clMenuBar"_L1,
-};
-static_assert(std::size(systemNames) == std::size(systemRoles));
-
 std::optional<quint32> namedColour(const QString& text) {
     if (const auto found = namedColours().constFind(text.toLower()); found != namedColours().constEnd())
         return *found;
-    for (quint32 place = 0; place < std::size(systemNames); ++place)
-        if (!systemNames[place].isEmpty() && text.compare(systemNames[place], Qt::CaseInsensitive) == 0)
+    for (quint32 place = 0; place < std::size(systemColours); ++place)
+        if (const QLatin1String name = systemColours[place].name;
+            !name.isEmpty() && text.compare(name, Qt::CaseInsensitive) == 0)
             return systemColour | place;
     return std::nullopt;
 }
@@ -137,7 +108,7 @@ QColor colourFromText(const QString& text) {
         return {};
     const quint32 kind = *number >> 24;
     const quint32 place = *number & 0xffffff;
-    if ((kind == 0xff || kind == 0x80) && place < std::size(systemRoles))
-        return QGuiApplication::palette().color(systemRoles[place]);
+    if ((kind == 0xff || kind == 0x80) && place < std::size(systemColours))
+        return QGuiApplication::palette().color(systemColours[place].role);
     return {int(*number & 0xff), int(*number >> 8 & 0xff), int(*number >> 16 & 0xff)};
 }
