@@ -45,58 +45,47 @@ TEST_F(Find, FilterShowsOneValueAndFollowsEveryChange) {
 TEST_F(Find, LocateTakesTheFirstShownMatch) {
     const struct {
         data::Matches matches;
-        Qt::CaseSensitivity sensitivity;
         int all;
         int underFilter2;
     } cases[] = {
-        {{{u"code", u"pokok"_s}}, Qt::CaseSensitive, 1, 0},
-        {{{u"code", u"POKOK"_s}}, Qt::CaseInsensitive, 0, 0},
-        {{{u"code", u"POKOK"_s}}, Qt::CaseSensitive, -1, -1},
-        {{{u"line", 2}, {u"code", u"Makan"_s}}, Qt::CaseSensitive, 3, 1},
-        {{{u"code", u"makan"_s}, {u"line", u"1"_s}}, Qt::CaseInsensitive, 2, -1},
-        {{{u"code", QVariant()}}, Qt::CaseSensitive, 4, -1},
-        {{{u"code", u""_s}}, Qt::CaseSensitive, -1, -1},
-        {{{u"line", 3}}, Qt::CaseSensitive, -1, -1},
+        {{{u"code", u"pokok"_s}}, 1, 0},
+        {{{u"code", u"POKOK"_s}}, -1, -1},
+        {{{u"line", 2}, {u"code", u"Makan"_s}}, 3, 1},
+        {{{u"code", u"Makan"_s}, {u"line", u"1"_s}}, 2, -1},
+        {{{u"code", QVariant()}}, 4, -1},
+        {{{u"code", u""_s}}, -1, -1},
     };
     for (const auto& one : cases)
-        EXPECT_EQ(set.rowOf(one.matches, one.sensitivity), one.all);
+        EXPECT_EQ(set.rowOf(one.matches), one.all);
     set.setFilter(u"line"_s, 2);
     for (const auto& one : cases)
-        EXPECT_EQ(set.rowOf(one.matches, one.sensitivity), one.underFilter2);
+        EXPECT_EQ(set.rowOf(one.matches), one.underFilter2);
     EXPECT_FALSE(set.locate({{u"code", u"Pokok"_s}}));
     EXPECT_EQ(listing(set), "[2 pokok] | 2 Makan");
     EXPECT_TRUE(set.locate({{u"code", u"Makan"_s}}));
     EXPECT_EQ(listing(set), "2 pokok | [2 Makan]");
     EXPECT_THROW((void)set.locate({{u"line", u"satu"_s}}), data::Fault);
-    add(set, {1, u"pokok"_s});
-    set.setFilter(u"code"_s, u"pokok"_s);
-    EXPECT_EQ(set.rowOf({{u"line", 1}}, Qt::CaseInsensitive), 1) << "the filter minds the case, whatever a search does";
 }
 
-TEST_F(Find, OrderHoldsThroughPostsAndKeepsTheRecordCurrent) {
-    set.setOrder({u"line"_s, u"code"_s});
-    EXPECT_EQ(listing(set), "1 NULL | 1 Makan | [1 Pokok] | 2 Makan | 2 pokok");
-    set.editValue(u"line", 1001);
-    set.post();
-    EXPECT_EQ(listing(set), "1 NULL | 1 Makan | 2 Makan | 2 pokok | [1001 Pokok]");
-    add(set, {0, u"Awal"_s});
-    EXPECT_EQ(listing(set), "[0 Awal] | 1 NULL | 1 Makan | 2 Makan | 2 pokok | 1001 Pokok");
-    EXPECT_EQ(set.rowOf({{u"code", u"makan"_s}}, Qt::CaseInsensitive), 2);
-    set.setOrder({});
-    EXPECT_EQ(listing(set), "1001 Pokok | 2 pokok | 1 Makan | 2 Makan | 1 NULL | [0 Awal]");
-}
-
-TEST_F(Find, BookmarksFindTheirRecordUntilItIsGone) {
-    set.goToRow(3);
-    const data::RowId mark = set.bookmark().value();
-    set.goToRow(0);
+TEST_F(Find, AKeptPlaceIsTheRecordOrWhatIsBehindItOrTheLast) {
+    set.goToRow(1);
+    const data::KeptPlace kept(set);
+    set.first();
     set.remove();
-    EXPECT_TRUE(set.goToBookmark(mark));
-    EXPECT_EQ(set.row(), 2);
-    set.setFilter(u"line"_s, 1);
-    EXPECT_FALSE(set.goToBookmark(mark));
+    EXPECT_TRUE(kept.restore());
+    EXPECT_EQ(listing(set), "[2 pokok] | 1 Makan | 2 Makan | 1 NULL");
+    set.remove();
+    set.last();
+    EXPECT_FALSE(kept.restore());
+    EXPECT_EQ(listing(set), "[1 Makan] | 2 Makan | 1 NULL");
+    set.setFilter(u"code"_s, u"Makan"_s);
+    for (set.first(); !set.isEmpty();)
+        set.remove();
     set.clearFilter();
-    ASSERT_TRUE(set.goToBookmark(mark));
+    add(set, {7, u"Lain"_s});
+    set.first();
     set.remove();
-    EXPECT_FALSE(set.goToBookmark(mark));
+    set.append();
+    EXPECT_FALSE(kept.restore());
+    EXPECT_EQ(listing(set), "[7 Lain]") << "what nobody filled in is gone";
 }

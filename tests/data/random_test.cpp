@@ -22,8 +22,6 @@ struct PlainModel {
         for (const Row& row : rows)
             if (!filter || row.a == *filter)
                 result.push_back(row);
-        if (ordered)
-            std::ranges::stable_sort(result, {}, &Row::b);
         return result;
     }
     [[nodiscard]] int find(std::optional<int> a, std::optional<int> b) const {
@@ -35,7 +33,6 @@ struct PlainModel {
 
     std::vector<Row> rows;
     std::optional<int> filter;
-    bool ordered = false;
 };
 
 /// Does what a grid does: keeps the list it shows by the signals alone.
@@ -72,14 +69,14 @@ public:
         const int a = pick(5), b = pick(5), kind = pick(9);
         m_set.goToRow(std::max(row, 0));
         if (kind == 0)
-            filterOrOrder();
+            filter();
         else if (kind <= 2 && row >= 0)
             change(shown[size_t(row)].serial, a, b);
         else if (kind == 3 && row >= 0) {
             std::erase_if(m_model.rows, [&](const auto& one) { return one.serial == shown[size_t(row)].serial; });
             m_set.remove();
         } else if (kind == 4)
-            takeBack(a, row >= 0);
+            takeBack();
         else {
             m_model.rows.push_back({a, b, m_next++});
             add(m_set, {a, b});
@@ -109,21 +106,18 @@ private:
         m_set.setValue(u"b", b);
         m_set.post();
     }
-    void takeBack(int a, bool isThereOne) {
-        if (isThereOne && pick(2) == 0)
+    /// What nobody has changed is not kept.
+    void takeBack() {
+        if (pick(2) == 0)
             m_set.edit();
         else
             m_set.append();
-        m_set.setValue(u"a", a);
-        m_set.cancel();
+        m_set.settle();
     }
-    void filterOrOrder() {
+    void filter() {
         if (pick(4) == 0) {
             m_model.filter.reset();
             m_set.clearFilter();
-        } else if (pick(3) == 0) {
-            m_model.ordered = !m_model.ordered;
-            m_set.setOrder(m_model.ordered ? QStringList{u"b"_s} : QStringList());
         } else {
             m_model.filter = pick(5);
             m_set.setFilter(u"a"_s, *m_model.filter);

@@ -89,15 +89,14 @@ class Recap : public testing::Test {
 protected:
     std::string recapOf(const oracle::Period& period) {
         const auto rows = frame::recap::open(company.services.session.ADOConn, {atWork, period.from, period.to});
-        rows->setOrder({u"emp_id_auto"_s});
-        QStringList lines;
+        QMultiMap<qint64, QString> lines;
         for (rows->first(); !rows->isEof(); rows->next()) {
             QString line = rows->text(u"emp_id_auto");
             for (const QString& column : figureColumns())
                 line += u" %1=%2"_s.arg(column, QString::number(rows->real(column), 'f', 2));
-            lines << line;
+            lines.insert(rows->integer(u"emp_id_auto"), line);
         }
-        return lines.join(u'\n').toStdString();
+        return QStringList(lines.values()).join(u'\n').toStdString();
     }
 
     void setSwitches(const char* rows) {

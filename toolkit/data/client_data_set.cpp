@@ -1,7 +1,5 @@
 #include "toolkit/data/client_data_set.h"
 
-#include "toolkit/db/transaction.h"
-
 #include <algorithm>
 #include <set>
 #include <span>
@@ -44,15 +42,6 @@ void ClientDataSet::recordRemoved(RowId row, const Record& last) {
         change->second.kind = Kind::Delete;
 }
 
-void ClientDataSet::applyUpdates() {
-    requireOpen();
-    settle();
-    if (m_changes.empty())
-        return;
-    db::inTransaction(m_provider.query->connection(), [this] { sendChanges(); });
-    forgetChanges();
-}
-
 TableWriter ClientDataSet::writer() {
     requireOpen();
     settle();
@@ -81,7 +70,7 @@ std::vector<RowId> ClientDataSet::changesOf(Kind kind) const {
 
 std::vector<RowId> ClientDataSet::rowsInTheWay(const TableWriter& writer) const {
     const std::vector<RowId> updates = changesOf(Kind::Update);
-    RowIndex holders(writer.keyFields(), Qt::CaseSensitive);
+    RowIndex holders(writer.keyFields());
     for (const RowId row : updates)
         holders.add(row, m_changes.at(row).loaded);
     std::set<RowId> inTheWay;

@@ -25,11 +25,9 @@ void DataSet::open() {
 void DataSet::show(Rows rows) {
     m_fields = std::move(rows.fields);
     m_table.load(std::move(rows.records));
-    applyOrder();
     applyFilter();
     m_state = State::Browse;
     place(0);
-    m_bof = true;
     tellViews(&DataSet::opened);
     call(events.afterOpen);
     if (!isEmpty())
@@ -57,31 +55,24 @@ void DataSet::first() {
     requireOpen();
     settle();
     scrollTo(0);
-    m_bof = true;
 }
 
 void DataSet::last() {
     requireOpen();
     settle();
     scrollTo(recordCount() - 1);
-    m_eof = true;
 }
 
-int DataSet::moveBy(int distance) {
+void DataSet::next() {
     requireOpen();
     settle();
-    if (distance == 0 || (distance > 0 ? m_eof : m_bof))
-        return 0;
-    const int from = m_row;
-    const int target = from + distance;
-    call(events.beforeScroll);
-    place(target);
-    m_eof = m_eof || target >= recordCount();
-    m_bof = m_bof || target < 0;
-    const int moved = m_row - from;
+    if (m_eof)
+        return;
+    const bool isLast = m_row + 1 == recordCount();
+    place(m_row + 1);
+    m_eof = isLast;
     tellViews(&DataSet::cursorMoved);
     call(events.afterScroll);
-    return moved;
 }
 
 void DataSet::goToRow(int row) {
@@ -98,46 +89,35 @@ const QVariant& DataSet::valueAt(int row, int field) const {
     return m_table.record(m_table.rows().at(size_t(row)))[size_t(field)];
 }
 
-std::optional<RowId> DataSet::bookmark() const {
-    if (m_row >= recordCount())
-        return std::nullopt;
-    return m_table.rows()[size_t(m_row)];
-}
-
-bool DataSet::goToBookmark(RowId record) {
-    requireOpen();
-    settle();
-    const int row = m_table.positionOf(record);
-    if (row >= 0)
-        scrollTo(row);
-    return row >= 0;
-}
-
-std::vector<RowId> DataSet::bookmarksFromHere() const {
-    return {m_table.rows().begin() + std::min(m_row, recordCount()), m_table.rows().end()};
+KeptPlace::KeptPlace(DataSet& set) : m_set(set) {
+    const std::vector<RowId>& rows = set.m_table.rows();
+    m_rest.assign(rows.begin() + std::min(set.m_row, set.recordCount()), rows.end());
 }
 
 bool KeptPlace::restore() const {
+    m_set.settle();
     for (const RowId record : m_rest)
-        if (m_set.goToBookmark(record))
+        if (const int row = m_set.m_table.positionOf(record); row >= 0) {
+            m_set.goToRow(row);
             return record == m_rest.front();
+        }
     m_set.last();
     return false;
 }
 
-bool DataSet::locate(const Matches& matches, Qt::CaseSensitivity sensitivity) {
+bool DataSet::locate(const Matches& matches) {
     requireOpen();
     settle();
-    const int row = rowOf(matches, sensitivity);
+    const int row = rowOf(matches);
     if (row >= 0)
         scrollTo(row);
     return row >= 0;
 }
 
-int DataSet::rowOf(const Matches& matches, Qt::CaseSensitivity sensitivity) {
+int DataSet::rowOf(const Matches& matches) {
     requireOpen();
     const Search search = searchOf(matches);
-    const std::optional<RowId> found = m_table.find(search.fields, search.values, sensitivity);
+    const std::optional<RowId> found = m_table.find(search.fields, search.values);
     return found ? m_table.positionOf(*found) : -1;
 }
 
@@ -153,13 +133,6 @@ void DataSet::clearFilter() {
         settle();
     m_filter.reset();
     applyFilter();
-}
-
-void DataSet::setOrder(const QStringList& fields) {
-    if (isOpen())
-        settle();
-    m_order = fields;
-    applyOrder();
 }
 
 int DataSet::fieldIndex(QStringView name) const {
@@ -217,22 +190,7 @@ void DataSet::applyFilter() {
     first();
 }
 
-void DataSet::applyOrder() {
-    if (m_fields.empty())
-        return;
-    const std::optional<RowId> current = bookmark();
-    std::vector<int> fields;
-    for (const QString& name : std::as_const(m_order))
-        fields.push_back(fieldIndex(name));
-    m_table.setOrder(std::move(fields));
-    if (!isOpen())
-        return;
-    place(current ? m_table.positionOf(*current) : 0);
-    tellViews(&DataSet::reset);
-}
-
 void DataSet::scrollTo(int row) {
-    call(events.beforeScroll);
     place(row);
     tellViews(&DataSet::cursorMoved);
     call(events.afterScroll);
@@ -240,7 +198,7 @@ void DataSet::scrollTo(int row) {
 
 void DataSet::place(int row) {
     m_row = std::clamp(row, 0, std::max(0, recordCount() - 1));
-    m_bof = m_eof = recordCount() == 0;
+    m_eof = recordCount() == 0;
 }
 
 void DataSet::setState(State state) {

@@ -16,8 +16,7 @@ enum class State { Inactive, Browse, Edit, Insert };
 /// What a screen hangs on a data set; called synchronously, also while the bound views are off.
 struct Events {
     using Handler = std::function<void()>;
-    Handler afterOpen, newRecord, beforePost, afterPost, beforeCancel, afterCancel;
-    Handler beforeDelete, afterDelete, beforeScroll, afterScroll;
+    Handler afterOpen, newRecord, afterPost, beforeCancel, afterCancel, beforeDelete, afterScroll;
 };
 
 /// One condition of a search: the field holds the value.
@@ -50,22 +49,16 @@ public:
     void reopen();
     [[nodiscard]] bool isOpen() const { return m_state != State::Inactive; }
     [[nodiscard]] State state() const { return m_state; }
-    [[nodiscard]] bool isEditing() const { return m_state == State::Edit || m_state == State::Insert; }
     /// A read-only set refuses append, edit and remove.
     void setReadOnly(bool readOnly) { m_readOnly = readOnly; }
-    [[nodiscard]] bool isReadOnly() const { return m_readOnly; }
 
-    // The cursor. Before the first and after the last record there is no place: the cursor stays on the record and
-    // isBof() or isEof() tells that a step led beyond it. Both hold in an empty set.
     void first();
     void last();
-    void next() { moveBy(1); }
-    void prior() { moveBy(-1); }
-    /// Gives the number of records really moved, negative backwards.
-    int moveBy(int distance);
+    /// A step beyond the last record stays on it, and isEof() tells so.
+    void next();
     /// Makes the record at a place of the list current; a place beyond either end means the record there.
     void goToRow(int row);
-    [[nodiscard]] bool isBof() const { return m_bof; }
+    /// Holds in an empty set, too.
     [[nodiscard]] bool isEof() const { return m_eof; }
     /// Stored records that show up; one that is being inserted does not count yet.
     [[nodiscard]] int recordCount() const { return int(m_table.rows().size()); }
@@ -76,24 +69,16 @@ public:
     [[nodiscard]] int rowCount() const { return recordCount() + (m_state == State::Insert ? 1 : 0); }
     [[nodiscard]] int row() const { return m_row; }
     [[nodiscard]] const QVariant& valueAt(int row, int field) const;
-    /// Name of the current record that lasts until it is removed or the set closes; none while it is being inserted.
-    [[nodiscard]] std::optional<RowId> bookmark() const;
-    /// False, and nothing moves, where the record is gone or does not show up.
-    bool goToBookmark(RowId record);
-    /// The names of the current record and of all behind it.
-    [[nodiscard]] std::vector<RowId> bookmarksFromHere() const;
 
     /// Moves to the first record that matches; false, and nothing moves, where there is none.
-    bool locate(const Matches& matches, Qt::CaseSensitivity sensitivity = Qt::CaseSensitive);
+    bool locate(const Matches& matches);
     /// Place of the first match without moving; -1 where there is none.
-    [[nodiscard]] int rowOf(const Matches& matches, Qt::CaseSensitivity sensitivity = Qt::CaseSensitive);
+    [[nodiscard]] int rowOf(const Matches& matches);
 
     /// Only records whose field holds the value show up, and the first of them is current. Stays in force when the set
     /// is opened again; on a closed set it waits for the opening.
     void setFilter(const QString& field, const QVariant& value);
     void clearFilter();
-    /// Sorts by the fields, ascending; none: the order of arrival. Stays in force like the filter.
-    void setOrder(const QStringList& fields);
 
     [[nodiscard]] const std::vector<Field>& fields() const { return m_fields; }
     [[nodiscard]] int fieldIndex(QStringView name) const;
@@ -106,7 +91,6 @@ public:
     [[nodiscard]] qint32 integer32(QStringView field) const { return integer32Of(value(field)); }
     [[nodiscard]] double real(QStringView field) const { return realOf(value(field)); }
     [[nodiscard]] QDate date(QStringView field) const { return dateOf(value(field)); }
-    [[nodiscard]] QDateTime moment(QStringView field) const { return momentOf(value(field)); }
 
     /// Only while the record is being edited or inserted.
     void setValue(QStringView field, const QVariant& value);
@@ -121,7 +105,6 @@ public:
     void edit();
     /// Nothing while browsing.
     void post();
-    void cancel();
     /// Deletes the current record; one that is being inserted is cancelled instead.
     void remove();
     /// What every move does first: posts a changed record, cancels an untouched one.
@@ -155,6 +138,7 @@ protected:
 
 private:
     friend class ViewsOff;
+    friend class KeptPlace;
 
     struct FilterSetting {
         QString field;
@@ -165,16 +149,17 @@ private:
         std::vector<QVariant> values;
     };
 
+    [[nodiscard]] bool isEditing() const { return m_state == State::Edit || m_state == State::Insert; }
     [[nodiscard]] const Record* currentRecord() const;
     [[nodiscard]] Search searchOf(const Matches& matches) const;
     void show(Rows rows);
     void applyFilter();
-    void applyOrder();
     void requireWritable() const;
     void scrollTo(int row);
     void place(int row);
     void setState(State state);
     void startInsert();
+    void cancel();
     void dropInsert();
     void dropEdit();
     void storeBuffer();
@@ -198,13 +183,11 @@ private:
     RecordTable m_table;
     State m_state = State::Inactive;
     int m_row = 0;
-    bool m_bof = true;
     bool m_eof = true;
     bool m_modified = false;
     bool m_readOnly = false;
     Record m_buffer; ///< the current record while it is edited or inserted
     std::optional<FilterSetting> m_filter;
-    QStringList m_order;
     int m_viewsOff = 0;
     bool m_viewsMissed = false;
 };
@@ -212,7 +195,7 @@ private:
 /// Remembers which record is current, for a walk that moves the cursor and deletes records.
 class KeptPlace final {
 public:
-    explicit KeptPlace(DataSet& set) : m_set(set), m_rest(set.bookmarksFromHere()) {}
+    explicit KeptPlace(DataSet& set);
 
     /// Makes the record current again, or where it is gone the one that took its place: the next behind it, else the
     /// last. True for the record itself.
@@ -220,7 +203,7 @@ public:
 
 private:
     DataSet& m_set;
-    std::vector<RowId> m_rest;
+    std::vector<RowId> m_rest; ///< the record and all behind it
 };
 
 /// While one lives, the views of the set are told nothing; the end of the outermost refreshes them once.

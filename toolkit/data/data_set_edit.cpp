@@ -38,7 +38,6 @@ void DataSet::setEverywhere(QStringView field, const QVariant& value) {
 void DataSet::append() {
     requireWritable();
     settle();
-    call(events.beforeScroll);
     startInsert();
     try {
         call(events.newRecord);
@@ -69,23 +68,17 @@ void DataSet::post() {
     if (!isEditing())
         return;
     Q_EMIT flushRequested();
-    call(events.beforePost);
     storeBuffer();
     call(events.afterPost);
 }
 
 void DataSet::cancel() {
-    requireOpen();
-    if (!isEditing())
-        return;
     call(events.beforeCancel);
     const bool inserting = m_state == State::Insert;
-    if (inserting) {
-        call(events.beforeScroll);
+    if (inserting)
         dropInsert();
-    } else {
+    else
         dropEdit();
-    }
     call(events.afterCancel);
     if (inserting)
         call(events.afterScroll);
@@ -100,9 +93,7 @@ void DataSet::remove() {
     if (isEmpty())
         throw Fault(u"There is no record to delete"_s);
     call(events.beforeDelete);
-    call(events.beforeScroll);
     removeCurrent();
-    call(events.afterDelete);
     call(events.afterScroll);
 }
 
@@ -130,7 +121,7 @@ void DataSet::startInsert() {
     tellViews(&DataSet::rowAboutToBeInserted, row);
     m_buffer.assign(m_fields.size(), {});
     m_row = row;
-    m_bof = m_eof = false;
+    m_eof = false;
     m_state = State::Insert;
     tellViews(&DataSet::rowInserted, row);
     tellViews(&DataSet::stateChanged);

@@ -7,6 +7,20 @@
 
 namespace data {
 
+namespace {
+
+// Rows are named in the order of arrival, so a list of them is sorted.
+
+void enter(std::vector<RowId>& rows, RowId row) {
+    rows.insert(std::ranges::lower_bound(rows, row), row);
+}
+
+void leave(std::vector<RowId>& rows, RowId row) {
+    rows.erase(std::ranges::lower_bound(rows, row));
+}
+
+} // namespace
+
 void RecordTable::load(std::vector<Record> records) {
     *this = RecordTable();
     m_records.assign(std::make_move_iterator(records.begin()), std::make_move_iterator(records.end()));
@@ -19,17 +33,14 @@ RowId RecordTable::append(Record record) {
     m_records.push_back(std::move(record));
     for (RowIndex& index : m_indexes)
         index.add(row, m_records[row]);
-    enter(m_all, row);
+    m_all.push_back(row);
     if (m_filter && isVisible(row))
-        enter(m_filtered, row);
+        m_filtered.push_back(row);
     return row;
 }
 
 Record RecordTable::replace(RowId row, Record record) {
-    // The lists are searched by the record's own values, so it leaves them before and enters them after the change.
-    leave(m_all, row);
-    if (m_filter && isVisible(row))
-        leave(m_filtered, row);
+    const bool wasVisible = isVisible(row);
     Record before = std::exchange(m_records[row], std::move(record));
     for (RowIndex& index : m_indexes) {
         if (index.isSameKey(before, m_records[row]))
@@ -37,8 +48,9 @@ Record RecordTable::replace(RowId row, Record record) {
         index.remove(row, before);
         index.add(row, m_records[row]);
     }
-    enter(m_all, row);
-    if (m_filter && isVisible(row))
+    if (wasVisible && !isVisible(row))
+        leave(m_filtered, row);
+    else if (!wasVisible && isVisible(row))
         enter(m_filtered, row);
     return before;
 }
@@ -54,11 +66,9 @@ Record RecordTable::remove(RowId row) {
 
 void RecordTable::setFilter(int field, const QVariant& value) {
     m_filter = Filter{.field = field, .value = value};
-    const std::span<const RowId> rows = indexOver({field}, Qt::CaseSensitive).candidates(std::array{value});
+    const std::span<const RowId> rows = indexOver({field}).candidates(std::array{value});
     m_filtered.clear();
     std::ranges::copy_if(rows, std::back_inserter(m_filtered), [this](RowId row) { return isVisible(row); });
-    if (!m_order.empty())
-        std::ranges::sort(m_filtered, [this](RowId a, RowId b) { return isBefore(a, b); });
 }
 
 void RecordTable::clearFilter() {
@@ -66,23 +76,13 @@ void RecordTable::clearFilter() {
     m_filtered.clear();
 }
 
-void RecordTable::setOrder(std::vector<int> fields) {
-    m_order = std::move(fields);
-    const auto before = [this](RowId a, RowId b) { return isBefore(a, b); };
-    std::ranges::sort(m_all, before);
-    std::ranges::sort(m_filtered, before);
-}
-
 int RecordTable::positionOf(RowId row) const {
-    if (row >= m_records.size() || m_records[row].empty())
-        return -1;
     const std::vector<RowId>& shown = rows();
-    const auto place = std::ranges::lower_bound(shown, row, [this](RowId a, RowId b) { return isBefore(a, b); });
+    const auto place = std::ranges::lower_bound(shown, row);
     return place != shown.end() && *place == row ? int(place - shown.begin()) : -1;
 }
 
-std::optional<RowId> RecordTable::find(const std::vector<int>& fields, const std::vector<QVariant>& values,
-                                       Qt::CaseSensitivity sensitivity) {
+std::optional<RowId> RecordTable::find(const std::vector<int>& fields, const std::vector<QVariant>& values) {
     std::vector<int> searched = fields;
     std::vector<QVariant> wanted = values;
     // Under a filter the index spans its field, too: the search then meets only records that show up.
@@ -90,47 +90,25 @@ std::optional<RowId> RecordTable::find(const std::vector<int>& fields, const std
         searched.push_back(m_filter->field);
         wanted.push_back(m_filter->value);
     }
-    const RowIndex& index = indexOver(searched, sensitivity);
-    std::optional<RowId> first;
-    for (const RowId row : index.candidates(wanted)) {
-        if (!index.agrees(m_records[row], wanted) || !isVisible(row))
-            continue;
-        if (m_order.empty())
+    const RowIndex& index = indexOver(searched);
+    for (const RowId row : index.candidates(wanted))
+        if (index.agrees(m_records[row], wanted))
             return row;
-        if (!first || isBefore(row, *first))
-            first = row;
-    }
-    return first;
+    return std::nullopt;
 }
 
 bool RecordTable::isVisible(RowId row) const {
-    return !m_filter || compareValues(m_records[row][size_t(m_filter->field)], m_filter->value, Qt::CaseSensitive) == 0;
+    return !m_filter || m_records[row][size_t(m_filter->field)] == m_filter->value;
 }
 
-bool RecordTable::isBefore(RowId a, RowId b) const {
-    for (const int field : m_order)
-        if (const int side = compareValues(m_records[a][size_t(field)], m_records[b][size_t(field)], Qt::CaseSensitive))
-            return side < 0;
-    return a < b;
-}
-
-const RowIndex& RecordTable::indexOver(const std::vector<int>& fields, Qt::CaseSensitivity sensitivity) {
+const RowIndex& RecordTable::indexOver(const std::vector<int>& fields) {
     for (const RowIndex& index : m_indexes)
-        if (index.isOver(fields, sensitivity))
+        if (index.isOver(fields))
             return index;
-    RowIndex& fresh = m_indexes.emplace_back(fields, sensitivity);
-    for (RowId row = 0; row < m_records.size(); ++row)
-        if (!m_records[row].empty())
-            fresh.add(row, m_records[row]);
+    RowIndex& fresh = m_indexes.emplace_back(fields);
+    for (const RowId row : m_all)
+        fresh.add(row, m_records[row]);
     return fresh;
-}
-
-void RecordTable::enter(std::vector<RowId>& rows, RowId row) const {
-    rows.insert(std::ranges::lower_bound(rows, row, [this](RowId a, RowId b) { return isBefore(a, b); }), row);
-}
-
-void RecordTable::leave(std::vector<RowId>& rows, RowId row) const {
-    rows.erase(std::ranges::lower_bound(rows, row, [this](RowId a, RowId b) { return isBefore(a, b); }));
 }
 
 } // namespace data

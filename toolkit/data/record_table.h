@@ -7,11 +7,11 @@
 
 namespace data {
 
-/// The records of one open data set: which exist, which the filter lets through, in which order. Finding by fields is
-/// served by indexes that are built at the first search and kept up to date from then on.
+/// The records of one open data set: which exist and which the filter lets through, in the order of arrival. Finding by
+/// fields is served by indexes that are built at the first search and kept up to date from then on.
 class RecordTable final {
 public:
-    /// Replaces everything; filter and order are forgotten.
+    /// Replaces everything; the filter is forgotten.
     void load(std::vector<Record> records);
 
     RowId append(Record record);
@@ -23,18 +23,15 @@ public:
     /// Only records whose field holds exactly the value show up; the value has the field's own type.
     void setFilter(int field, const QVariant& value);
     void clearFilter();
-    /// Sorts by the fields, ascending, ties in the order of arrival; none: the order of arrival.
-    void setOrder(std::vector<int> fields);
 
-    /// The records that show up, in order.
+    /// The records that show up.
     [[nodiscard]] const std::vector<RowId>& rows() const { return m_filter ? m_filtered : m_all; }
     /// Those that the filter hides, too.
     [[nodiscard]] const std::vector<RowId>& allRows() const { return m_all; }
     /// Place of the record among rows(); -1 where it does not show up.
     [[nodiscard]] int positionOf(RowId row) const;
     /// First record that shows up with the values in the fields.
-    [[nodiscard]] std::optional<RowId> find(const std::vector<int>& fields, const std::vector<QVariant>& values,
-                                            Qt::CaseSensitivity sensitivity);
+    [[nodiscard]] std::optional<RowId> find(const std::vector<int>& fields, const std::vector<QVariant>& values);
 
 private:
     struct Filter {
@@ -43,16 +40,12 @@ private:
     };
 
     [[nodiscard]] bool isVisible(RowId row) const;
-    [[nodiscard]] bool isBefore(RowId a, RowId b) const;
-    [[nodiscard]] const RowIndex& indexOver(const std::vector<int>& fields, Qt::CaseSensitivity sensitivity);
-    void enter(std::vector<RowId>& rows, RowId row) const;
-    void leave(std::vector<RowId>& rows, RowId row) const;
+    [[nodiscard]] const RowIndex& indexOver(const std::vector<int>& fields);
 
     std::deque<Record> m_records; ///< by row; what was removed stays as an empty record
     std::vector<RowId> m_all;
     std::vector<RowId> m_filtered;
     std::optional<Filter> m_filter;
-    std::vector<int> m_order;
     std::vector<RowIndex> m_indexes;
 };
 

@@ -14,23 +14,15 @@ void mix(size_t& hash, size_t next) {
 
 } // namespace
 
-RowIndex::RowIndex(std::vector<int> fields, Qt::CaseSensitivity sensitivity) :
-    m_fields(std::move(fields)), m_sensitivity(sensitivity) {}
-
-bool RowIndex::isOver(const std::vector<int>& fields, Qt::CaseSensitivity sensitivity) const {
-    return m_fields == fields && m_sensitivity == sensitivity;
-}
-
 bool RowIndex::agrees(const Record& record, std::span<const QVariant> values) const {
     for (size_t i = 0; i < m_fields.size(); ++i)
-        if (compareValues(record[size_t(m_fields[i])], values[i], m_sensitivity) != 0)
+        if (record[size_t(m_fields[i])] != values[i])
             return false;
     return true;
 }
 
 bool RowIndex::isSameKey(const Record& a, const Record& b) const {
-    return std::ranges::all_of(
-        m_fields, [&](int field) { return compareValues(a[size_t(field)], b[size_t(field)], m_sensitivity) == 0; });
+    return std::ranges::all_of(m_fields, [&](int field) { return a[size_t(field)] == b[size_t(field)]; });
 }
 
 void RowIndex::add(RowId row, const Record& record) {
@@ -49,7 +41,7 @@ void RowIndex::remove(RowId row, const Record& record) {
 std::span<const RowId> RowIndex::candidates(std::span<const QVariant> values) const {
     size_t hash = 0;
     for (const QVariant& value : values)
-        mix(hash, hashValue(value, m_sensitivity));
+        mix(hash, hashValue(value));
     const auto bucket = m_rows.find(hash);
     return bucket == m_rows.end() ? std::span<const RowId>() : std::span<const RowId>(bucket->second);
 }
@@ -57,7 +49,7 @@ std::span<const RowId> RowIndex::candidates(std::span<const QVariant> values) co
 size_t RowIndex::hashOf(const Record& record) const {
     size_t hash = 0;
     for (const int field : m_fields)
-        mix(hash, hashValue(record[size_t(field)], m_sensitivity));
+        mix(hash, hashValue(record[size_t(field)]));
     return hash;
 }
 

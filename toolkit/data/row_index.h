@@ -4,6 +4,7 @@
 
 #include <span>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace data {
@@ -15,9 +16,9 @@ using RowId = quint32;
 /// tells it every change of a record.
 class RowIndex final {
 public:
-    RowIndex(std::vector<int> fields, Qt::CaseSensitivity sensitivity);
+    explicit RowIndex(std::vector<int> fields) : m_fields(std::move(fields)) {}
 
-    [[nodiscard]] bool isOver(const std::vector<int>& fields, Qt::CaseSensitivity sensitivity) const;
+    [[nodiscard]] bool isOver(const std::vector<int>& fields) const { return m_fields == fields; }
     [[nodiscard]] bool agrees(const Record& record, std::span<const QVariant> values) const;
     [[nodiscard]] bool isSameKey(const Record& a, const Record& b) const;
 
@@ -31,7 +32,6 @@ private:
     [[nodiscard]] size_t hashOf(const Record& record) const;
 
     std::vector<int> m_fields;
-    Qt::CaseSensitivity m_sensitivity;
     std::unordered_map<size_t, std::vector<RowId>> m_rows;
 };
 

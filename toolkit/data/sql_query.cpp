@@ -6,26 +6,42 @@ namespace data {
 
 namespace {
 
-Field fieldOf(const db::Column& column) {
-    return {.name = column.name, .type = column.type, .bits = column.bits, .isUnsigned = column.isUnsigned};
+FieldType fieldType(db::ColumnType type) {
+    switch (type) {
+    case db::ColumnType::Integer:
+        return FieldType::Integer;
+    case db::ColumnType::Real:
+        return FieldType::Real;
+    case db::ColumnType::Date:
+        return FieldType::Date;
+    case db::ColumnType::Moment:
+        return FieldType::Moment;
+    case db::ColumnType::Text:
+        break;
+    }
+    return FieldType::Text;
 }
 
-QVariant valueOf(const db::Result& rows, int column, FieldType type) {
+Field fieldOf(const db::Column& column) {
+    return {.name = column.name, .type = fieldType(column.type), .bits = column.bits, .isUnsigned = column.isUnsigned};
+}
+
+QVariant valueOf(const db::Result& rows, int column) {
     if (rows.isNull(column))
         return {};
-    switch (type) {
-    case FieldType::Integer:
+    switch (rows.columns()[size_t(column)].type) {
+    case db::ColumnType::Integer:
         return rows.integer(column);
-    case FieldType::Real:
+    case db::ColumnType::Real:
         return rows.real(column);
-    case FieldType::Text:
+    case db::ColumnType::Text:
         return rows.text(column);
-    case FieldType::Date: {
+    case db::ColumnType::Date: {
         // The server's zero date is no date; it reads as NULL.
         const QDate date = rows.date(column);
         return date.isValid() ? QVariant(date) : QVariant();
     }
-    case FieldType::Moment: {
+    case db::ColumnType::Moment: {
         const QDateTime moment = rows.moment(column);
         return moment.isValid() ? QVariant(moment) : QVariant();
     }
@@ -37,7 +53,7 @@ Record readRecord(const db::Result& rows) {
     Record record;
     record.reserve(rows.columns().size());
     for (size_t i = 0; i < rows.columns().size(); ++i)
-        record.push_back(valueOf(rows, int(i), rows.columns()[i].type));
+        record.push_back(valueOf(rows, int(i)));
     return record;
 }
 

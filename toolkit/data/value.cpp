@@ -48,11 +48,6 @@ bool isBlank(const QVariant& value) {
     }
 }
 
-template <typename T>
-int sign(const T& a, const T& b) {
-    return a < b ? -1 : b < a ? 1 : 0;
-}
-
 } // namespace
 
 QString textOf(const QVariant& value) {
@@ -144,24 +139,7 @@ bool fitsWidth(qint64 value, const Field& field) {
     return field.isUnsigned ? value >= 0 && value < values : value >= -values / 2 && value < values / 2;
 }
 
-int compareValues(const QVariant& a, const QVariant& b, Qt::CaseSensitivity sensitivity) {
-    if (!a.isValid() || !b.isValid())
-        return int(a.isValid()) - int(b.isValid());
-    switch (a.typeId()) {
-    case QMetaType::LongLong:
-        return sign(a.toLongLong(), b.toLongLong());
-    case QMetaType::Double:
-        return sign(a.toDouble(), b.toDouble());
-    case QMetaType::QDate:
-        return sign(a.toDate(), b.toDate());
-    case QMetaType::QDateTime:
-        return sign(a.toDateTime(), b.toDateTime());
-    default:
-        return QString::compare(a.toString(), b.toString(), sensitivity);
-    }
-}
-
-size_t hashValue(const QVariant& value, Qt::CaseSensitivity sensitivity) {
+size_t hashValue(const QVariant& value) {
     switch (value.typeId()) {
     case QMetaType::UnknownType:
         return 0;
@@ -174,7 +152,7 @@ size_t hashValue(const QVariant& value, Qt::CaseSensitivity sensitivity) {
     case QMetaType::QDateTime:
         return qHash(value.toDateTime());
     default:
-        return sensitivity == Qt::CaseSensitive ? qHash(value.toString()) : qHash(value.toString().toCaseFolded());
+        return qHash(value.toString());
     }
 }
 

@@ -1,24 +1,13 @@
 #pragma once
 
-#include "toolkit/db/result.h"
+#include "toolkit/data/field.h"
 
 #include <QDateTime>
-#include <QString>
 #include <QVariant>
 
 #include <vector>
 
 namespace data {
-
-using FieldType = db::ColumnType;
-
-struct Field {
-    QString name;
-    FieldType type = FieldType::Text;
-    int bits = 64; ///< declared width of an integer column; values are held in 64 bits whatever it says
-    bool isUnsigned = false;
-    int size = 0; ///< longest text in characters, longer ones are cut; 0 for any length
-};
 
 /// One value per field, in field order. An invalid QVariant is NULL, else the type is the field's own: qint64, double,
 /// QString, QDate or QDateTime.
@@ -42,9 +31,6 @@ using Record = std::vector<QVariant>;
 /// Whether the column as declared can hold the whole number.
 [[nodiscard]] bool fitsWidth(qint64 value, const Field& field);
 
-/// Both of one field: below, equal or above zero as `a` sorts before, with or after `b`. NULL sorts first.
-[[nodiscard]] int compareValues(const QVariant& a, const QVariant& b, Qt::CaseSensitivity sensitivity);
-
-[[nodiscard]] size_t hashValue(const QVariant& value, Qt::CaseSensitivity sensitivity);
+[[nodiscard]] size_t hashValue(const QVariant& value);
 
 } // namespace data

@@ -20,7 +20,7 @@ public:
     /// Said by the client library: the server was not reached, or did not answer.
     [[nodiscard]] bool isOfLibrary() const { return m_code >= 2000 && m_code < 3000; }
     /// Somebody has ended the statement; the server and the session are well.
-    [[nodiscard]] bool isInterrupted() const { return m_code == interrupted; }
+    [[nodiscard]] bool isInterrupted() const override { return m_code == interrupted; }
     [[nodiscard]] const QString& sqlState() const { return m_sqlState; }
     [[nodiscard]] const QString& statement() const { return m_statement; }
 

@@ -13,6 +13,9 @@ public:
 
     /// What helps an administrator beyond what(): numbers, the statement. Empty where there is nothing more to tell.
     [[nodiscard]] virtual QString details() const { return {}; }
+
+    /// Somebody has stopped the work: nothing to be alarmed at.
+    [[nodiscard]] virtual bool isInterrupted() const { return false; }
 };
 
 } // namespace fault

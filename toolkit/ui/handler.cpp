@@ -1,6 +1,6 @@
 #include "toolkit/ui/handler.h"
 
-#include "toolkit/db/fault.h"
+#include "toolkit/fault/fault.h"
 #include "toolkit/ui/lookup_box.h"
 #include "toolkit/ui/message_dialog.h"
 
@@ -8,9 +8,8 @@ using namespace Qt::StringLiterals;
 
 void showFault(QWidget* screen, const std::exception& fault) {
     ActionRefusal::note();
-    // A statement that somebody has stopped is nothing to be alarmed at.
-    const auto* refused = dynamic_cast<const db::Fault*>(&fault);
-    const bool isStopped = refused && refused->isInterrupted();
+    const auto* own = dynamic_cast<const ::fault::Fault*>(&fault);
+    const bool isStopped = own && own->isInterrupted();
     MessageDialog dialog(isStopped ? MessageKind::Information : MessageKind::Error, nullptr);
     dialog.setButtonCount(1);
     // Nobody can translate what the server or the library says, so the title names the program and no language.
