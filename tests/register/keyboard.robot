@@ -14,7 +14,7 @@ key Return
 key Alt+T
 forms
 state dbe_nama
-type dbe_nama "Tombol"
+type dbe_nama "Tombol 🙂"
 echo Enter goes on to the next field
 key Return
 state dbtp_tgl_aw

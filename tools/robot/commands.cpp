@@ -1,18 +1,25 @@
 #include "tools/robot/commands.h"
 
 #include "toolkit/report/fr_preview.h"
+#include "toolkit/ui/caption.h"
 #include "tools/robot/keyboard.h"
 #include "tools/robot/pointer.h"
 #include "tools/robot/shown.h"
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QCalendarWidget>
 #include <QComboBox>
 #include <QDateTimeEdit>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPointer>
 #include <QSpinBox>
+#include <QStyleOption>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QtTest/qtestkeyboard.h>
+#include <QtTest/qtestmouse.h>
 #include <QtTest/qtestsystem.h>
 
 using namespace Qt::StringLiterals;
@@ -35,6 +42,50 @@ QWidget* focusOn(QWidget* control, const QString& path) {
     return control;
 }
 
+/// The calendar that a press on the arrow drops down. Sent, not queued: no other command may find it half chosen.
+QCalendarWidget* dropCalendar(QDateTimeEdit* picker) {
+    QStyleOptionComboBox option;
+    option.initFrom(picker);
+    option.editable = true;
+    const QRect arrow = picker->style()->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxArrow, picker);
+    QTest::mousePress(picker, Qt::LeftButton, {}, arrow.center());
+    QTest::mouseRelease(picker, Qt::LeftButton, {}, arrow.center());
+    const QWidget* popup = QApplication::activePopupWidget();
+    return popup ? popup->findChild<QCalendarWidget*>() : nullptr;
+}
+
+/// Chosen as by a click on the day, after which the calendar closes.
+void chooseDate(QDateTimeEdit* picker, const QString& path, const QDate& date) {
+    if (!picker->calendarPopup()) {
+        picker->setDate(date);
+        return;
+    }
+    QCalendarWidget* calendar = dropCalendar(picker);
+    if (!calendar || date < calendar->minimumDate() || date > calendar->maximumDate())
+        throw CommandError(u"%1 offers no day %2"_s.arg(path, date.toString(Qt::ISODate)));
+    calendar->setSelectedDate(date);
+    QTest::keyClick(calendar->focusProxy(), Qt::Key_Return);
+    giveFocusBack(picker);
+}
+
+/// One click on an arrow after another until the number shows.
+void stepTo(QSpinBox* box, const QString& path, int wanted) {
+    const QPointer<QSpinBox> alive = box;
+    while (alive && box->value() != wanted) {
+        const bool up = box->value() < wanted;
+        QStyleOptionSpinBox option;
+        option.initFrom(box);
+        const auto arrow = up ? QStyle::SC_SpinBoxUp : QStyle::SC_SpinBoxDown;
+        const int before = box->value();
+        clickPoint(box, box->style()->subControlRect(QStyle::CC_SpinBox, &option, arrow, box).center());
+        Robot::settle();
+        const bool isNearer = alive && (up ? box->value() > before && box->value() <= wanted
+                                           : box->value() < before && box->value() >= wanted);
+        if (alive && !isNearer)
+            throw CommandError(u"%1 does not reach %2 by its arrows"_s.arg(path).arg(wanted));
+    }
+}
+
 /// One word shorter than typing: the value arrives whole and is accepted as by the Enter key.
 void setValue(QWidget* control, const QString& path, const QString& value) {
     if (auto* box = qobject_cast<QAbstractButton*>(control); box && box->isCheckable()) {
@@ -46,19 +97,34 @@ void setValue(QWidget* control, const QString& path, const QString& value) {
     const QDate date = QDate::fromString(value, Qt::ISODate);
     auto* dateEdit = qobject_cast<QDateTimeEdit*>(control);
     if (dateEdit && date.isValid())
-        dateEdit->setDate(date);
+        chooseDate(dateEdit, path, date);
     else if (qobject_cast<QLineEdit*>(control) || qobject_cast<QPlainTextEdit*>(control))
         typeText(control, value);
     else if (auto* number = qobject_cast<QSpinBox*>(control))
-        number->setValue(wholeNumber(value));
+        return stepTo(number, path, wholeNumber(value));
     else
         throw CommandError(u"%1 does not take %2"_s.arg(path, quoted(value)));
     QMetaObject::invokeMethod(control, "editingFinished");
 }
 
+void turnToPage(QTabWidget* pages, const QString& path, const QString& caption) {
+    QTabBar* bar = pages->tabBar();
+    for (int page = 0; page < pages->count(); ++page) {
+        if (captionText(pages->tabText(page)) != caption || !pages->isTabVisible(page))
+            continue;
+        if (!pages->isTabEnabled(page))
+            throw CommandError(u"%1 is disabled"_s.arg(quoted(caption)));
+        clickPoint(bar, bar->tabRect(page).center());
+        return;
+    }
+    throw CommandError(u"%1 has no page %2"_s.arg(path, quoted(caption)));
+}
+
 void chooseEntry(QWidget* control, const QString& path, const QString& text) {
     if (chooseInTree(control, path, text))
         return;
+    if (auto* pages = qobject_cast<QTabWidget*>(control))
+        return turnToPage(pages, path, text);
     auto* combo = qobject_cast<QComboBox*>(control);
     if (!combo)
         throw CommandError(u"%1 has nothing to choose from"_s.arg(path));

@@ -22,18 +22,23 @@ void typeText(QWidget* control, const QString& text) {
         QMetaObject::invokeMethod(control, "selectAll");
     if (text.isEmpty())
         QTest::keyClick(control, Qt::Key_Delete);
-    for (const QChar c : text)
-        QTest::sendKeyEvent(QTest::Click, control, Qt::Key_unknown, QString(c), Qt::NoModifier);
+    // One key for a letter, also for one that takes two code units.
+    for (const char32_t letter : text.toStdU32String())
+        QTest::sendKeyEvent(QTest::Click, control, Qt::Key_unknown, QString::fromUcs4(&letter, 1), Qt::NoModifier);
+}
+
+void giveFocusBack(QWidget* control) {
+    const QWindow* focused = QGuiApplication::focusWindow();
+    if (focused && focused->isVisible())
+        return;
+    control->window()->activateWindow();
+    (void)QTest::qWaitForWindowActive(control->window());
 }
 
 void pressKeys(QWidget* topmost, const QString& name) {
     const QKeySequence keys(name);
-    // Without a window manager nobody gives the focus back when a dialog or a list has closed.
-    const QWindow* focused = QGuiApplication::focusWindow();
-    if ((!focused || !focused->isVisible()) && topmost) {
-        topmost->window()->activateWindow();
-        (void)QTest::qWaitForWindowActive(topmost->window());
-    }
+    if (topmost)
+        giveFocusBack(topmost);
     QWindow* window = QGuiApplication::focusWindow();
     if (keys.count() != 1 || keys[0].key() == Qt::Key_unknown || !window)
         throw CommandError(u"cannot press %1"_s.arg(name));

@@ -11,6 +11,7 @@
 #include <cstdio>
 #include <fstream>
 #include <iostream>
+#include <optional>
 #include <span>
 
 using namespace Qt::StringLiterals;
@@ -43,7 +44,8 @@ void describeOptions(QCommandLineParser& options) {
     options.addHelpOption();
 }
 
-frame::ProgramEnvironment environmentFrom(const QCommandLineParser& options) {
+/// Nothing where the moment of the clock cannot be read.
+std::optional<frame::ProgramEnvironment> environmentFrom(const QCommandLineParser& options) {
     frame::ProgramEnvironment environment;
     environment.folder = QFileInfo(options.value(u"dir"_s)).absoluteFilePath();
     environment.programPath = environment.folder + u"/robot"_s;
@@ -51,6 +53,8 @@ frame::ProgramEnvironment environmentFrom(const QCommandLineParser& options) {
     environment.readUserSetting = [value = options.value(u"admin-id"_s)](const QString&) { return value; };
     if (options.isSet(u"now"_s)) {
         const auto now = QDateTime::fromString(options.value(u"now"_s), u"yyyy-MM-dd HH:mm"_s);
+        if (!now.isValid())
+            return std::nullopt;
         environment.clock = [now] { return now; };
     }
     return environment;
@@ -83,6 +87,11 @@ int main(int argc, char** argv) {
     applyTheme(application);
     QApplication::setQuitOnLastWindowClosed(false);
     options.process(application);
+    const auto environment = environmentFrom(options);
+    if (!environment) {
+        std::fprintf(stderr, "error: line 0: --now takes \"yyyy-mm-dd hh:mm\"\n");
+        return 2;
+    }
     const QStringList files = options.positionalArguments();
     std::ifstream script;
     if (!files.isEmpty())
@@ -91,5 +100,5 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "error: line 0: cannot read %s\n", qPrintable(files.first()));
         return 2;
     }
-    return Robot(environmentFrom(options), files.isEmpty() ? std::cin : script).run();
+    return Robot(*environment, files.isEmpty() ? std::cin : script).run();
 }
