@@ -11,7 +11,7 @@
 #:+ insert into z_pay_grp_emp(grp_id, emp_id_auto) values(1, 1), (1, 3);
 #:+ insert into z_pay_process_m(process_id, process_name, date1, date2) values(1, 'Kami', '2026-10-10', '2026-10-20');
 #:+ insert into z_pay_process_d(process_id, no_urut, emp_id_auto, tot_payroll) values(1, 1, 3, 20)
-#: app insert into global_setting values('default_lang', 'indonesia'), ('tanggal_awal_proses', '2026-10-01'), ('tanggal_akhir_proses', '2026-10-31')
+#: app insert into global_setting values('default_lang', 'indonesia'), ('change_lang', '0'), ('tanggal_awal_proses', '2026-10-01'), ('tanggal_akhir_proses', '2026-10-31')
 start
 state dbg_rekap
 click btn_userlog
@@ -27,3 +27,6 @@ click btn_tambah
 state dbg_grp
 click chb_emp
 items clb_emp
+echo nor has an error a button for languages where change_lang is 0
+answer 4
+click btn_simpan

@@ -60,7 +60,7 @@ TEST(SessionBranch, StandsBehindTheFirstColonOfThePerUserValue) {
                           {"{3B9F17C4-A2D6-4E18-9C07-51EE40B7A26D}:1", true, "Pusat", 1},
                           {"x:9", true, "", 0},
                           {"0", true, "", 0},
-                          {"x:tiga", true, "", 0, "'tiga' is not a valid integer value"},
+                          {"x:tiga:3", true, "", 0, "'tiga:3' is not a valid integer value"},
                           {"!", true, "", 0, "cannot be read"}};
     for (const Case& one : cases) {
         Started started(company, QString::fromUtf8(one.value));

@@ -150,6 +150,7 @@ TEST_F(Recap, EqualsTheCalculatorWhereAFigureHasOneSource) {
 }
 
 TEST_F(Recap, ConditionNarrowsTheEmployees) {
+    company.database.run(u"update emp set pin='B 9' where emp_id_auto=1"_s);
     const auto pinsFor = [this](const char* condition) {
         const auto rows = frame::recap::open(company.services.session.ADOConn,
                                              {atWork + QString::fromUtf8(condition), october.from, october.to});
@@ -159,7 +160,7 @@ TEST_F(Recap, ConditionNarrowsTheEmployees) {
             pins << rows->text(u"pin");
         return pins.join(u',').toStdString();
     };
-    EXPECT_EQ(pinsFor(""), "1,A 2,3,4,6");
+    EXPECT_EQ(pinsFor(""), "A 2,3,4,6,B 9");
     EXPECT_EQ(pinsFor(R"( and dept_name like 'PT\\\\Produksi%' )"), "A 2,3,4,6");
     EXPECT_EQ(pinsFor(R"( and dept_name like 'PT\\\\Produksi' )"), "A 2");
     EXPECT_EQ(pinsFor(" and cab_name='Cabang D''Or' and func_name='Kepala' "), "4,6");

@@ -7,7 +7,7 @@
 #:+   ('FRM_MENU', 'LBL_1', -1, '', 'Components'),
 #:+   ('frm_menu', 'lbl_2', -1, '', ''''''),
 #:+   ('frm_menu', 'lbl_nobody', -1, '', 'Nobody'),
-#:+   ('frm_menu', 'btn_userlog', -1, '', 'Audit && &log'),
+#:+   ('frm_menu', 'btn_userlog', -1, '', 'Audit && &log'), ('frm_menu', 'btn_userlog', 0, '', 'What was done'),
 #:+   ('frm_userlog', 'cmb_modul', 1, '', 'Devices'),
 #:+   ('frm_userlog', 'chb_user', -1, '', 'Person'),
 #:+   ('frm_userlog', 'dbg_userloglog_note', -1, '', 'Note'),
@@ -17,6 +17,7 @@ forms
 get lbl_1
 get lbl_2
 get lbl_3
+get lbl_tgl
 get btn_userlog
 click btn_userlog
 forms

@@ -1,5 +1,5 @@
 # Names that look like markup, carry shortcut marks, run from right to left, lie beyond 16 bits or never end.
-#: options --user "<b>hrd</b> &x" --now "2026-11-05 08:15"
+#: options --user "<b>hrd</b> &x" --user PT --user 3 --user "4 4" --user 5 --now "2026-11-05 08:15"
 #: app-file app.sql
 #: main-file company.sql
 #: main update emp set first_name='<img src=/etc/hostname>&Cari\nDua\nTiga', last_name=repeat('W', 200) where emp_id_auto=1;

@@ -37,7 +37,7 @@ close frm_isian_hitung_gaji
 click btn_invert
 grid dbg_m
 echo the question: no, Language, yes while a statement fails
-answer 2
+answer !
 click btn_hapus
 answer 4
 input "Hapus?"
@@ -53,6 +53,8 @@ click btn_hapus
 #: rows select * from user_log
 click btn_cari
 grid dbg_m
+row dbg_m #1
+row dbg_d #2
 echo nothing ticked: the question comes all the same
 answer 1
 click btn_hapus
@@ -60,6 +62,7 @@ click btn_select_all
 answer 1
 click btn_hapus
 grid dbg_m
+grid dbg_sd
 click btn_hapus
 click btn_edit
 forms

@@ -53,7 +53,7 @@ type dbe_bulat 5000
 click btn_simpan
 #: rows select process_name, round_value, tot_process from z_pay_process_m where process_id=4
 echo edited: Proses replaces all lines, what the screen does not show stays
-#: main update z_pay_process_m set payment_date='2026-11-01', create_by='Kepala' where process_id=4
+#: main update z_pay_process_m set payment_date='2026-11-01', create_by='Kepala', lastupdate_date='2026-01-01' where process_id=4
 set dtp_tgl_aw 2026-10-01
 click btn_cari
 tick dbg_m process_name=Bulat
@@ -68,7 +68,7 @@ tick dbg_grp kode_grp=HRN
 click btn_select_all2
 click btn_proses
 click btn_simpan
-#: rows select process_id, process_name, payment_date, create_by, tot_process from z_pay_process_m where process_id=4
+#: rows select process_id, process_name, payment_date, create_by, tot_process, lastupdate_date from z_pay_process_m where process_id=4
 #: rows select no_urut, emp_id_auto, tot_payroll from z_pay_process_d where process_id=4
 #: rows select no_urut, no_urut_ref, com_id, subtot_payroll from z_pay_process_sd where process_id=4
 echo changed elsewhere by the same user within the minute: asked, and replaced only with consent, whole

@@ -184,7 +184,7 @@ void saveReport(Robot& robot, const QString& path) {
 
 void queueAnswers(Robot& robot, const Words& words) {
     for (const QString& word : words)
-        robot.dialogs().queueAnswer(wholeNumber(word));
+        robot.dialogs().queueAnswer(word == "!"_L1 ? DialogAnswers::escape : wholeNumber(word));
 }
 
 void pressKey(Robot& robot, const Words& words) {

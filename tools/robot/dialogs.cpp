@@ -56,8 +56,10 @@ void DialogAnswers::answer(MessageWindow* window) {
     if (m_answers.isEmpty() && window->kind() == MessageKind::Confirmation)
         m_robot.fail(u"no answer queued for the question: %1"_s.arg(subject));
     const int result = m_answers.isEmpty() ? int(MessageOk) : m_answers.dequeue();
-    Robot::print(u"%1 -> %2"_s.arg(subject).arg(result));
-    if (!window->press(result))
+    Robot::print(u"%1 -> %2"_s.arg(subject, result == escape ? cancel : QString::number(result)));
+    if (result == escape)
+        QTest::keyClick(window, Qt::Key_Escape);
+    else if (!window->press(result))
         m_robot.fail(u"no button for answer %1: %2"_s.arg(result).arg(subject));
 }
 

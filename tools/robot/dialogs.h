@@ -17,6 +17,8 @@ class DialogAnswers final {
 public:
     explicit DialogAnswers(Robot& robot) : m_robot(robot) {}
 
+    /// The answer that is given with the Esc key.
+    static constexpr int escape = -1;
     void queueAnswer(int result) { m_answers.enqueue(result); }
     /// "!" cancels the dialog.
     void queueInput(const QString& text) { m_inputs.enqueue(text); }

@@ -36,7 +36,7 @@ void prepareScreen(QTemporaryFile& file, const QString& size) {
 
 void describeOptions(QCommandLineParser& options) {
     options.addOptions({{u"dir"_s, u"folder that stands for the program's own"_s, u"DIR"_s, QDir::currentPath()},
-                        {u"user"_s, u"login id of the launch contract"_s, u"LOGIN"_s},
+                        {u"user"_s, u"login id of the launch contract; again, the words behind it"_s, u"LOGIN"_s},
                         {u"admin-id"_s, u"the per-user value"_s, u"TEXT"_s},
                         {u"now"_s, u"fixes the clock: yyyy-mm-dd hh:mm"_s, u"MOMENT"_s},
                         {u"size"_s, u"size of the screen without a display"_s, u"WxH"_s, u"1280x800"_s}});
@@ -49,7 +49,7 @@ std::optional<frame::ProgramEnvironment> environmentFrom(const QCommandLineParse
     frame::ProgramEnvironment environment;
     environment.folder = QFileInfo(options.value(u"dir"_s)).absoluteFilePath();
     environment.programPath = environment.folder + u"/robot"_s;
-    environment.arguments = {environment.programPath, frame::launchToken(), options.value(u"user"_s)};
+    environment.arguments = QStringList{environment.programPath, frame::launchToken()} + options.values(u"user"_s);
     environment.readUserSetting = [value = options.value(u"admin-id"_s)](const QString&) { return value; };
     if (options.isSet(u"now"_s)) {
         const auto now = QDateTime::fromString(options.value(u"now"_s), u"yyyy-MM-dd HH:mm"_s);
