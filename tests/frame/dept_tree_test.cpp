@@ -59,13 +59,6 @@ TEST_F(DepartmentTree, SuiteWithoutDepartmentsGetsItsRoot) {
     EXPECT_EQ(company.database.rows(u"select * from dept"_s), QStringList(u"1\tNama Perusahaan\tNULL"_s));
 }
 
-TEST_F(DepartmentTree, PathOfTheChosenEntryHasFourBackslashesPerStep) {
-    base::FillDeptTree(box, company.services.session);
-    EXPECT_EQ(base::deptPath(box), u"PT"_s);
-    box.choose(box.tree().findItems(u"Las"_s, Qt::MatchExactly | Qt::MatchRecursive).first());
-    EXPECT_EQ(base::deptPath(box), uR"(PT\\\\Produksi\\\\Las)"_s);
-}
-
 TEST_F(DepartmentTree, DepartmentsWithEmployeesHaveAPictureOfTheirOwn) {
     company.database.run(u"delete from emp where dept_id_auto=4"_s);
     base::FillDeptTree(box, company.services.session);

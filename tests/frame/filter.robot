@@ -1,12 +1,6 @@
 # Every field of the filter on the recap, where the department limits each search.
 #: options --user hrd --now "2026-11-05 08:00"
-#: main insert into cabang values(1, 'Pusat'), (3, 'Cabang D''Or');
-#:+ insert into func values(1, 'Staf'), (2, 'Kepala');
-#:+ insert into dept values(4, 'PT\\Produksi\\Las', 'Las'), (2, 'PT\\Produksi', 'Produksi'), (1, 'PT', 'PT'), (3, 'PT\\Umum', 'Umum');
-#:+ insert into emp(emp_id_auto, pin, nik, first_name, last_name, cab_id_auto, dept_id_auto, func_id_auto, emp_status) values
-#:+   (-1, '0', '0', 'Tidak', 'Ada', 1, 1, 1, 0), (1, '1', 'N1', 'Ani', 'Putri', 1, 1, 1, 0),
-#:+   (2, 'A 2', 'N2', 'Anisa', null, 1, 2, 2, 0), (3, '3', 'N3', 'Ma''ruf', 'Ali', 3, 4, 1, 0),
-#:+   (4, '4', 'N4', 'Budi', 'Ani', 3, 3, 2, 0), (5, '5', 'N5', 'Ani', 'Keluar', 1, 2, 1, 1)
+#: main-file company.sql
 #: app insert into global_setting values('default_lang', 'indonesia'), ('tanggal_awal_proses', '2026-10-01'), ('tanggal_akhir_proses', '2026-10-31')
 start
 items TCB_dept
@@ -54,7 +48,10 @@ grid dbg_rekap
 click chb_sub
 click btn_cari
 grid dbg_rekap
-choose TCB_dept PT/Produksi/Las
+click TCB_dept
+key Down
+key Return
+get TCB_dept
 click btn_cari
 grid dbg_rekap
 echo function; without those below, the root alone is searched

@@ -82,17 +82,6 @@ TEST_F(Filter, ByKeyAddsTheConditionOfTheChosenFieldAlone) {
     EXPECT_EQ(byKey({FilterBlock::Jabatan, ""}), "");
 }
 
-TEST_F(Filter, ByNameTheTreeLimitsEverySearch) {
-    EXPECT_EQ(byName({FilterBlock::Semua, ""}), " and dept_name like 'PT%' ");
-    EXPECT_EQ(byName({FilterBlock::Semua, "", false}), " and dept_name like 'PT' ");
-    EXPECT_EQ(byName({FilterBlock::Pin, "3"}), " and pin = '3'  and dept_name like 'PT%' ");
-    EXPECT_EQ(byName({FilterBlock::Nik, "N1"}), " and nik = 'N1'  and dept_name like 'PT%' ");
-    EXPECT_EQ(byName({FilterBlock::Nama, "Ani"}), " and nama like 'Ani%'  and dept_name like 'PT%' ");
-    EXPECT_EQ(byName({FilterBlock::Cabang, "Cabang D'Or"}), " and cab_name='Cabang D''Or'  and dept_name like 'PT%' ");
-    EXPECT_EQ(byName({FilterBlock::Departemen, "Produksi", false}), R"( and dept_name like 'PT\\\\Produksi' )");
-    EXPECT_EQ(byName({FilterBlock::Jabatan, "Kepala"}), " and dept_name like 'PT%'  and func_name='Kepala' ");
-}
-
 TEST_F(Filter, AnotherFieldForgetsWhatWasChosenBefore) {
     enter({FilterBlock::Cabang, "Pusat"});
     EXPECT_EQ(byName({FilterBlock::Jabatan, ""}), " and dept_name like 'PT%' ");

@@ -110,45 +110,6 @@ TEST_F(Grid, StaysWhereItWasScrolledToThroughAWalkThatComesBack) {
     EXPECT_EQ(bar.value(), before);
 }
 
-TEST_F(Grid, CellsKeepTheirColourOnTheCurrentRow) {
-    grid.setCellColour(
-        [](const CellInView& cell) { return cell.column.field() == u"nilai"_s ? QColor(Qt::yellow) : QColor(); });
-    grid.setCurrentIndex(grid.model()->index(0, 0));
-    const QImage picture = grid.viewport()->grab().toImage();
-    const auto colourAt = [&](int column) {
-        return picture.pixelColor(grid.visualRect(grid.model()->index(0, column)).topLeft() + QPoint(2, 2));
-    };
-    EXPECT_EQ(colourAt(0), grid.palette().color(QPalette::Highlight));
-    EXPECT_EQ(colourAt(1), QColor(Qt::yellow));
-}
-
-TEST(Bands, CaptionStandsOverThePartThatCanBeSeen) {
-    QWidget window;
-    DataGrid grid(&window);
-    std::vector<ColumnPlan> columns;
-    for (const auto& name : {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s})
-        columns.push_back({.field = name, .caption = {}, .band = u"lebar"_s});
-    grid.setColumns(columns, {{.name = u"lebar"_s, .caption = u"MMMM"_s}});
-    // Away from the corner of the window, where wrong clipping would not show.
-    grid.setGeometry(50, 150, 200, 100);
-    for (int column = 0; column < int(columns.size()); ++column)
-        grid.setColumnWidth(column, 80);
-    window.show();
-    const auto inkInTheMiddle = [&] {
-        const QImage picture =
-            window.grab({grid.x() + grid.width() / 2 - 20, grid.y(), 40, grid.horizontalHeader()->height() / 2})
-                .toImage();
-        int dark = 0;
-        for (int x = 0; x < picture.width(); ++x)
-            for (int y = 0; y < picture.height(); ++y)
-                dark += qGray(picture.pixel(x, y)) < 100;
-        return dark;
-    };
-    EXPECT_GT(inkInTheMiddle(), 20);
-    grid.horizontalScrollBar()->setValue(grid.horizontalScrollBar()->maximum());
-    EXPECT_GT(inkInTheMiddle(), 20);
-}
-
 } // namespace
 
 TEST(GridColumn, FactorsLineUpAtTheComma) {

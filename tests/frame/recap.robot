@@ -1,19 +1,13 @@
 # The recap of a small company: sums, days, the ends of the period, totals beside their parts, colours.
 #: options --user hrd --now "2026-11-05 08:00"
-#: main insert into cabang values(1, 'Pusat'), (3, 'Cabang D''Or');
-#:+ insert into func values(1, 'Staf'), (2, 'Kepala');
-#:+ insert into dept values(4, 'PT\\Produksi\\Las', 'Las'), (2, 'PT\\Produksi', 'Produksi'), (1, 'PT', 'PT'), (3, 'PT\\Umum', 'Umum');
-#:+ insert into emp(emp_id_auto, pin, nik, first_name, last_name, cab_id_auto, dept_id_auto, func_id_auto, emp_status) values
-#:+   (-1, '0', '0', 'Tidak', 'Ada', 1, 1, 1, 0), (1, '1', 'N1', 'Ani', 'Putri', 1, 1, 1, 0),
-#:+   (2, 'A 2', 'N2', 'Anisa', null, 1, 2, 2, 0), (3, '3', 'N3', 'Ma''ruf', 'Ali', 3, 4, 1, 0),
-#:+   (4, '4', 'N4', 'Budi', 'Ani', 3, 3, 2, 0), (5, '5', 'N5', 'Ani', 'Keluar', 1, 2, 1, 1)
+#: main-file company.sql
 #: app insert into global_setting values('default_lang', 'indonesia'), ('tanggal_awal_proses', '2026-10-01'), ('tanggal_akhir_proses', '2026-10-31'),
-#:+   ('cl_tampil_grid_set', '-1'), ('cl_terlambat_set', '-1'), ('cl_cepat_set', '-1'), ('cl_terlambat', 'clYellow'),
+#:+   ('cl_tampil_grid_set', '-1'), ('cl_terlambat_set', '0'), ('cl_cepat_set', '-1'), ('cl_terlambat', 'clYellow'),
 #:+   ('cl_cepat', '$0080FF'), ('cl_absen', '255'), ('cl_absen_izin', 'clSkyBlue'), ('cl_libur', '0xC0C0C0')
 #: main insert into shift_result(emp_id_auto, shift_date, valid, late, early, total_ot, duration, holiday, shift_ot, break1, max_break, break2, max_break2) values
 #:+   (1, '2026-09-30', 0, 9, 9, 9, 9, 0, 0, 0, 0, 0, 0), (1, '2026-11-01', 0, 9, 9, 9, 9, 0, 0, 0, 0, 0, 0),
 #:+   (1, '2026-10-01', 0, 0.3, 0, 1.5, 8, 0, 0, 1, 0.5, 0, 1), (1, '2026-10-01', 0, 0.1, 1, 2, 0, 0, 0, 1, 0, 1, 0),
-#:+   (1, '2026-10-31', 0, 0, 0, 3, 5, -1, -1, 0, 0, 0, 0), (1, '2026-10-02', 1, 7, 7, 7, 7, 0, 0, 0, 0, 0, 0),
+#:+   (1, '2026-10-31', 0, -0.2, -0.4, 3, 5, -1, -1, 0, 0, 0, 0), (1, '2026-10-02', 1, 7, 7, 7, 7, 0, 0, 0, 0, 0, 0),
 #:+   (2, '2026-10-05', 0, 1.25, 0.4, 0, 8, 0, 0, 0, 0, 0, 0), (2, '2026-10-06', 0, 0, 0.2, 4, 8, -1, 0, 0, 0, 0, 0);
 #:+ insert into holiday values('2026-10-31'), ('2026-12-25');
 #:+ insert into date_temp values(1, '2026-10-07', 1, 8, 0), (2, '2026-10-07', 2, 0, 0), (2, '2026-10-08', 3, 0, 0),
@@ -36,6 +30,11 @@ echo days instead of amounts; the settings of colours are not read again
 set dtp_tgl_akh 2026-10-31
 click btn_cari
 grid dbg_rekap
+colors dbg_rekap
+start
+colors dbg_rekap
+#: app update global_setting set param_value=if(param_id='cl_cepat_set', '0', '-1') where param_id like 'cl\_%\_set'
+start
 colors dbg_rekap
 echo a search that the server refuses leaves the rows
 #: main alter table date_temp change absent_id elsewhere smallint

@@ -33,10 +33,12 @@ bool hasLetter(const QString& text) {
 
 class Collector final {
 public:
-    explicit Collector(Texts& texts) : m_texts(texts) {}
+    /// Fills in the texts and the classes of the forms that have them.
+    Collector(Texts& texts, QStringList& classes) : m_texts(texts), m_classes(classes) {}
 
     void form(const QWidget& form) {
         m_form = form.objectName();
+        m_classes << QString::fromLatin1(form.metaObject()->className());
         add(m_form, -1, form.windowTitle());
         for (const QObject* child : form.findChildren<QObject*>())
             if (!child->objectName().startsWith("qt_"_L1))
@@ -81,13 +83,14 @@ private:
     }
 
     Texts& m_texts;
+    QStringList& m_classes;
     QString m_form;
 };
 
 /// The texts as the program has them, on screens that no table has touched.
-Texts textsOfProgram() {
+Texts textsOfProgram(QStringList& classes) {
     Texts texts;
-    Collector collect(texts);
+    Collector collect(texts, classes);
     base::Services services(base::systemClock(), nullptr);
     // Nothing listens there: the screens keep the texts that they were designed with.
     services.session.ADOConn_lang.configure(
@@ -107,27 +110,31 @@ Texts textsOfProgram() {
     return texts;
 }
 
-std::vector<QString> sourcesOfProgram() {
-    std::vector<QString> sources;
-    for (QDirIterator file(QStringLiteral(ORVANE_SOURCES), {u"*.cpp"_s, u"*.h"_s}, QDir::Files,
-                           QDirIterator::Subdirectories);
-         file.hasNext();) {
+/// What the pattern captures in the files of the program's own sources, each with its file.
+std::vector<std::pair<QString, QString>> inSources(const QStringList& names, const QString& pattern) {
+    std::vector<std::pair<QString, QString>> found;
+    const QRegularExpression wanted(pattern);
+    const QDir root(QStringLiteral(ORVANE_SOURCES));
+    for (QDirIterator file(root.path(), names, QDir::Files, QDirIterator::Subdirectories); file.hasNext();) {
         QFile source(file.next());
-        if (!file.filePath().contains(QRegularExpression(u"/(build|tests)/"_s)) && source.open(QIODevice::ReadOnly))
-            sources.push_back(QString::fromUtf8(source.readAll()));
+        const QString path = root.relativeFilePath(source.fileName());
+        if (path.contains(QRegularExpression(u"^(build|tests)/"_s)) || !source.open(QIODevice::ReadOnly))
+            continue;
+        const QString text = QString::fromUtf8(source.readAll());
+        for (const QRegularExpressionMatch& match : wanted.globalMatch(text))
+            found.emplace_back(match.captured(1), path);
     }
-    return sources;
+    return found;
 }
 
 /// What the guards of the program name as given up: the literals stand in the sources.
 Texts droppedThings() {
     Texts things;
-    const QRegularExpression guard(uR"re(fault::(?:dropFault|reportDroppedFault)\((?:\s*"([^"]*)")?)re"_s);
-    for (const QString& source : sourcesOfProgram())
-        for (const QRegularExpressionMatch& found : guard.globalMatch(source)) {
-            EXPECT_TRUE(found.hasCaptured(1)) << "not named by a literal: " << source.first(200).toStdString();
-            things.emplace_back(u"frm_pemberitahuan\t%1\t-1"_s.arg(found.captured(1)).toLower(), found.captured(1));
-        }
+    for (const auto& [name, file] :
+         inSources({u"*.cpp"_s, u"*.h"_s}, uR"re(fault::(?:dropFault|reportDroppedFault)\((?:\s*"([^"]*)")?)re"_s)) {
+        EXPECT_FALSE(name.isEmpty()) << "not named by a literal: " << file.toStdString();
+        things.emplace_back(u"frm_pemberitahuan\t%1\t-1"_s.arg(name).toLower(), name);
+    }
     return things;
 }
 
@@ -169,8 +176,12 @@ void expectRows(const Texts& texts, const QString& statement) {
 } // namespace
 
 TEST(LanguageTables, HoldEveryCaptionInBothLanguages) {
-    const Texts texts = textsOfProgram();
-    ASSERT_GT(texts.size(), 150u);
+    QStringList classes;
+    const Texts texts = textsOfProgram(classes);
+    const auto forms = inSources({u"fr_*.ui"_s}, u"<class>(frm_\\w+)</class>"_s);
+    ASSERT_GT(forms.size(), 5u);
+    for (const auto& [form, file] : forms)
+        EXPECT_TRUE(classes.contains(u'T' + form)) << "not collected above: " << file.toStdString();
     expectRows(texts, u"select com_form, com_name, no_index, indonesia, ifnull(english, '') from change_lang"_s);
 }
 

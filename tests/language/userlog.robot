@@ -1,6 +1,6 @@
 # The audit screen of an administrator: the three conditions, the deletion with a row of its own.
 #: options --user o'neil --now "2026-11-22 08:15"
-#: app insert into global_setting values('default_lang', 'indonesia'), ('change_lang', '1'), ('use_payroll_module', '-1');
+#: app insert into global_setting values('default_lang', 'indonesia'), ('change_lang', '0'), ('use_payroll_module', '-1');
 #:+ insert into user_login(login_id, group_id_auto) values('o''neil', 1), ('budi', 2), ('hrd', 1)
 #: main insert into user_log values
 #:+   ('o''neil', '2026-11-22 07:00', 7, 'today'), ('budi', '2026-11-15 00:00', 7, 'first day'),
@@ -13,11 +13,8 @@ get lookup_user
 get dtp_tgl_aw
 get dtp_tgl_akh
 grid dbg_userlog
-echo date and module
-click chb_user
-click btn_cari
-grid dbg_userlog
 echo module alone
+click chb_user
 click chb_tgl
 click btn_cari
 grid dbg_userlog
@@ -30,13 +27,7 @@ click chb_user
 choose lookup_user budi
 click btn_cari
 grid dbg_userlog
-echo user and module
-click chb_modul
-choose cmb_modul Karyawan
-click btn_cari
-grid dbg_userlog
 echo user and date
-click chb_modul
 click chb_tgl
 click btn_cari
 grid dbg_userlog
@@ -49,8 +40,11 @@ click chb_user
 choose lookup_user ""
 click btn_cari
 grid dbg_userlog
-echo all modules
+echo one module, all modules
 click chb_modul
+choose cmb_modul Karyawan
+click btn_cari
+grid dbg_userlog
 choose cmb_modul Semua
 click btn_cari
 grid dbg_userlog
@@ -64,3 +58,6 @@ echo the day of its own row goes with a later date
 set dtp_hapus 2026-11-23
 click btn_hapus
 #: rows select * from user_log order by log_date, log_note
+echo no button for languages where change_lang is 0
+answer 4
+click btn_hapus

@@ -47,14 +47,6 @@ TEST(ResolveHost, GivesTheAddressOfANameTheNameOfAnAddressAndTheTextBackWhereNot
         EXPECT_EQ(ResolveHost(text), text) << text.toStdString();
 }
 
-TEST(PingFailureText, TellsTheThreeReasonsApart) {
-    EXPECT_STREQ(pingFailureText(EACCES, ENFILE), "Error initialising Winsock");
-    EXPECT_STREQ(pingFailureText(ENOBUFS, EPERM), "Error initialising Winsock");
-    EXPECT_STREQ(pingFailureText(EPROTONOSUPPORT, ESOCKTNOSUPPORT), "Error loading dll functions");
-    EXPECT_STREQ(pingFailureText(EPROTONOSUPPORT, EPERM), "Unable to get ping handle");
-    EXPECT_STREQ(pingFailureText(EACCES, EPROTONOSUPPORT), "Unable to get ping handle");
-}
-
 TEST(PingSocket, EndsAtOnceWhereNothingCanBeSent) {
     std::unique_ptr<PingSocket> ping;
     try {

@@ -86,20 +86,6 @@ void asStranger(Action action) {
 
 } // namespace
 
-TEST_F(Instances, ASecondStartEndsAndRaisesTheFirst) {
-    const auto first = start(m_program);
-    go(*first);
-    EXPECT_EQ(line(*first), "first");
-    for (const QString& road : {m_program, m_program, m_link}) {
-        const auto second = start(road);
-        go(*second);
-        EXPECT_EQ(line(*second), "second") << road.toStdString();
-        EXPECT_EQ(line(*second), "ended 0") << road.toStdString();
-        EXPECT_EQ(line(*first), "raised") << road.toStdString();
-    }
-    kill(*first);
-}
-
 TEST_F(Instances, OfTenRacingStartsExactlyOneWinsAndItsKillingMakesWayForTheNextRace) {
     for (int race = 0; race < 5; ++race) {
         std::vector<std::unique_ptr<QProcess>> starts;

@@ -54,35 +54,6 @@ PIN | NIK | Nama karyawan | Jabatan | Cabang | Jumlah Gaji)");
     EXPECT_EQ(paper(*reports.RekapPenggajian(runs({1})), u"header"_s).substr(0, 24), "LAPORAN REKAP PENGGAJIAN");
 }
 
-TEST_F(Detail, ShowsEarningsAndDeductionsOfEachEmployee) {
-    pay(1, 9, 4300000,
-        {{6, 100000, u"* 20.000"_s, 5},
-         {1, 4000000, u"* 4.000.000"_s},
-         {5, 500000, u"* 25.000"_s, 20},
-         {109, 300000, u" x Angsuran"_s}});
-    pay(1, 10, 3000000, {{1, 3000000, u"* 3.000.000"_s}});
-    EXPECT_EQ(paper(reports.RincianPenggajian(runs({1}))), R"(page 1 of 1
-LAPORAN RINCIAN PENGGAJIAN
-Nama Perusahaan |  :  | PT Contoh
-Tgl. Periode |  :  | 01/05/2026 |  s/d  | 31/05/2026
-PIN |  :  | 9 | Nama |  :  | Ani  | Jabatan |  :  | Operator
-NIK |  :  | N9 | Departemen |  :  | Produksi | Gaji diterima |  :  | 4.300.000
-Kode | Komponen gaji | Keterangan | Jumlah Uang
-K1 | Nama 1 | 1 | * 4.000.000 | 4.000.000
-K5 | Nama 5 | 20 | * 25.000 | 500.000
-K6 | Nama 6 | 100.000
-Total penerimaan | 4.600.000
-K109 | Nama 109 | 1 |  x Angsuran | 300.000
-Total potongan | 300.000
-PIN |  :  | 10 | Nama |  :  | Citra Dewi | Jabatan |  :  | Operator
-NIK |  :  | N10 | Departemen |  :  | Produksi | Gaji diterima |  :  | 3.000.000
-Kode | Komponen gaji | Keterangan | Jumlah Uang
-K1 | Nama 1 | 1 | * 3.000.000 | 3.000.000
-Total penerimaan | 3.000.000
-Total potongan | 0
-Halaman |  :  | 1 | dari |  :  | 1 | Tgl. Cetak |  :  | 05/06/2026 14:03:09 | Oleh |  :  | budi)");
-}
-
 TEST_F(Detail, KeepsAnEmployeeOnOnePage) {
     for (const int employee : {9, 10})
         pay(1, employee, 465000, lines(11, 30));

@@ -4,7 +4,6 @@
 #include "toolkit/report/report.h"
 
 #include <QFile>
-#include <QImage>
 #include <QPrinter>
 #include <QRegularExpression>
 #include <QTemporaryDir>
@@ -82,29 +81,4 @@ TEST(Printer, TakesThePagesAskedForAtItsOwnResolution) {
     EXPECT_EQ(textOf(path), u"Budi 950"_s);
     EXPECT_TRUE(outputOf(u"pdfinfo"_s, {path}).contains(u"612 x 936 pts"_s));
     EXPECT_NEAR(placeOf(u"950"_s, path).right(), 7.62 + 80, 0.2);
-}
-
-TEST(Painter, FillsFramesAndRulesLieUnderTheTexts) {
-    report::Document document{.pages = {{}}};
-    document.pages[0].marks = {{.kind = report::Mark::Kind::Frame, .box = {10, 10, 30, 20}, .fill = {0xee, 0xee, 0xee}},
-                               {.kind = report::Mark::Kind::Rule, .box = {10, 20, 30, 0}},
-                               {.box = {12, 12, 20, report::lineMm}, .text = u"MMMM"_s, .look = {.bold = true}}};
-    constexpr int pixelsPerMm = 10;
-    QImage picture(500, 400, QImage::Format_RGB32);
-    picture.fill(Qt::white);
-    QPainter painter(&picture);
-    painter.scale(pixelsPerMm / report::dotsPerMm, pixelsPerMm / report::dotsPerMm);
-    report::PagePainter().draw(painter, document.pages[0]);
-    painter.end();
-    const auto color = [&](double x, double y) {
-        return picture.pixelColor(int(x * pixelsPerMm), int(y * pixelsPerMm)).name();
-    };
-    const QStringList colors{color(5, 5), color(35, 25), color(35, 20), color(10, 25)};
-    EXPECT_EQ(colors, (QStringList{u"#ffffff"_s, u"#eeeeee"_s, u"#707070"_s, u"#707070"_s}))
-        << "beside the frame, in it, on the rule and on its edge";
-    int ink = 0;
-    for (int x = 120; x < 200; ++x)
-        for (int y = 120; y < 170; ++y)
-            ink += picture.pixelColor(x, y) == Qt::black;
-    EXPECT_GT(ink, 200);
 }

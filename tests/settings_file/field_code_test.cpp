@@ -20,31 +20,6 @@ QByteArray marks() {
 
 } // namespace
 
-TEST(SplitFields, BlanksAndTheDelimiterPartFieldsAndQuotesHoldThemTogether) {
-    const struct {
-        char16_t delimiter;
-        const char* text;
-        const char* fields; ///< each in brackets
-    } cases[] = {
-        {u' ', " \r\n\t ", ""},
-        {u' ', " a   b\nc\r\nd\te ", "<a><b><c><d><e>"},
-        {u' ', "\"a \nb\"\"c\"\"\" d", "<a \nb\"c\"><d>"},
-        {u' ', "\"\" x", "<><x>"},
-        {u' ', "\"a\"b c\"d", "<a><b><c\"d>"},
-        {u' ', "a \"never closed b", "<a><never closed b>"},
-        {u' ', "a \"", "<a><>"},
-        {u';', "a;b c;;\"d;e\" ; f;", "<a><b><c><><d;e><f><>"},
-    };
-    for (const auto& c : cases) {
-        QStringList list{u"left over"_s};
-        SplitFields(c.delimiter, QString::fromUtf8(c.text), &list);
-        std::string fields;
-        for (const QString& field : list)
-            fields += '<' + field.toStdString() + '>';
-        EXPECT_EQ(fields, c.fields) << c.text;
-    }
-}
-
 TEST(DecodeBase64, TakesTheOneSpellingOfAValueOnly) {
     EXPECT_EQ(DecodeBase64(u"YWLDqeKCrA=="_s), u"abé€"_s);
     for (const char16_t* wrong :
