@@ -1,5 +1,5 @@
-# The server breaks the session off at each of the three batches of a save, and at a read of the computation: nothing is
-# stored or lost, the screen says so and keeps what it holds, and the same press works when the cause is gone.
+# The server breaks the session off, or the statement, at a read of the computation: nothing is lost, the screen says so
+# and keeps what it holds, and the same press works when the cause is gone.
 #: options --user hrd --now "2026-11-05 08:15"
 #: app-file app.sql
 #: main-file company.sql
@@ -10,18 +10,6 @@ tick dbg_grp kode_grp=STF
 click btn_select_all2
 type dbe_nama "Putus"
 click btn_proses
-#: main create trigger gone before insert on z_pay_process_m for each row kill connection_id()
-click btn_simpan
-forms
-#: main drop trigger gone
-#: main create trigger gone before insert on z_pay_process_d for each row kill connection_id()
-click btn_simpan
-#: main drop trigger gone
-#: main create trigger gone before insert on z_pay_process_sd for each row kill connection_id()
-click btn_simpan
-#: main drop trigger gone
-#: rows select count(*) from z_pay_process_m union all select count(*) from z_pay_process_d union all select count(*) from z_pay_process_sd
-#: rows select count(*) from user_log
 echo a computation that loses its connection, or is cancelled, leaves the lines as they were
 #: main create function killed() returns int begin kill connection_id(); return 1; end;
 #:+ create function cancelled() returns int begin kill query connection_id(); return 1; end;
