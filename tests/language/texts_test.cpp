@@ -13,7 +13,6 @@
 #include "toolkit/ui/input_dialog.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QComboBox>
 #include <QDirIterator>
 #include <QRegularExpression>
@@ -195,10 +194,4 @@ TEST(LanguageTables, HoldEveryMessageInBothLanguages) {
     const Texts texts = messagesOfProgram();
     ASSERT_GE(texts.size(), 8u);
     expectRows(texts, u"select com_form, message_id, 0, indonesia, ifnull(english, '') from tvk_message"_s);
-}
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
 }

@@ -6,7 +6,8 @@
 #:+   (1, 'Oktober', '2026-10-10', '2026-10-31', 3170000), (2, 'Kosong', '2026-10-10', '2026-10-31', 0);
 #:+ insert into z_pay_process_d (process_id, no_urut, emp_id_auto, tot_payroll) values (1, 1, 3, 3170000);
 #:+ insert into z_pay_process_sd (process_id, no_urut, no_urut_ref, emp_id_auto, com_id, subtot_payroll, jml_faktor, kondisi) values
-#:+   (1, 1, 1, 3, 10, 3000000, 1, '* 3.000.000'), (1, 1, 2, 3, 50, 250000, 2.5, ''), (1, 1, 3, 3, 40, 80000, 2, ' x Angsuran')
+#:+   (1, 1, 1, 3, 10, 3000000, 1, '* 3.000.000'), (1, 1, 2, 3, 50, 250000, 2.5, ''), (1, 1, 3, 3, 40, 80000, 2, ' x Angsuran');
+#:+ update z_pay_grp_com set jenis=1 where com_id=10 and grp_id=2
 start
 click Image2
 click btn_cetak

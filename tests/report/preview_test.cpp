@@ -96,6 +96,21 @@ TEST_F(Preview, KeysReadOnOverTheEndOfAPageAndBack) {
     EXPECT_TRUE(preview.isNull());
 }
 
+TEST_F(Preview, SavesAsPdfUnderTheNameOfTheReport) {
+    const QTemporaryDir folder;
+    QString offered;
+    QTimer::singleShot(0, [&] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        ASSERT_TRUE(dialog);
+        offered = QFileInfo(dialog->selectedFiles().constFirst()).fileName();
+        dialog->selectFile(folder.filePath(u"mei"_s));
+        QMetaObject::invokeMethod(dialog, "accept");
+    });
+    key(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(offered, u"Slip.pdf"_s);
+    EXPECT_TRUE(outputOf(u"pdfinfo"_s, {folder.filePath(u"mei.pdf"_s)}).contains(QRegularExpression(u"Pages: +5"_s)));
+}
+
 TEST_F(Preview, ZoomKeepsThePageAndChangesItsSize) {
     press(u"btn_berikut"_s);
     QList<int> heights;

@@ -1,7 +1,6 @@
 // What the robot does to controls that no screen has yet.
 #include "tools/robot/robot.h"
 
-#include <QApplication>
 #include <QDialog>
 #include <QSpinBox>
 #include <QTabBar>
@@ -35,10 +34,4 @@ TEST(Robot, TurnsPagesAndStepsNumbersThroughTheirHandlers) {
     std::istringstream good("choose pages Kedua\nset number 7\nset number 5\n");
     EXPECT_EQ(Robot({}, good).run(), 0);
     EXPECT_EQ(told, "page 1 3 5 7 5");
-}
-
-int main(int argc, char** argv) {
-    testing::InitGoogleTest(&argc, argv);
-    const QApplication application(argc, argv);
-    return RUN_ALL_TESTS();
 }
