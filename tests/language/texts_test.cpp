@@ -8,6 +8,7 @@
 #include "register/fr_hitung_gaji.h"
 #include "register/reports/captions.h"
 #include "run/form/left_out_list.h"
+#include "structure/fr_komponen.h"
 #include "tests/support/test_database.h"
 #include "toolkit/report/fr_preview.h"
 #include "toolkit/ui/input_dialog.h"
@@ -103,6 +104,8 @@ Texts textsOfProgram(QStringList& classes) {
     collect.form(Tfrm_daftar(services, base::Notices::emptyList(), nullptr));
     collect.form(Tfrm_daftar(services, leftOutList({}), nullptr));
     collect.form(Tfrm_hitung_gaji(services, nullptr));
+    collect.form(Tfrm_komponen(services, nullptr));
+    collect.form(Tfrm_isian_komponen(services, {}, nullptr));
     const report::Captions captions = payroll::defaultCaptions();
     for (auto caption = captions.byName().begin(); caption != captions.byName().end(); ++caption)
         collect.add(caption.key(), -1, caption.value());
