@@ -207,9 +207,9 @@ void Tfrm_menu::read_session_cab() {
         return;
     }
     const auto branch = base::Branch::one(integerOf(value.mid(value.indexOf(u':') + 1)));
-    m_session.sql_temp.openSql(u"select * from cabang where "_s + branch.condition());
+    const qint64 count = base::countOf(m_session.ADOConn, u"select count(*) from cabang where "_s + branch.condition());
     const auto mustExist = [&] {
-        if (m_session.sql_temp.isEmpty())
+        if (count == 0)
             throw data::Fault(branch.condition());
     };
     if (fault::dropFault("cabang yang membatasi pemakai ini", mustExist))

@@ -27,6 +27,7 @@ public:
 
     explicit TwoLists(Plan plan) : m_plan(std::move(plan)) {}
 
+    /// The lists must outlive the buttons' last click.
     void bind(QWidget& screen, const MoveButtons& buttons);
     void moveRight(Which which);
     void moveLeft(Which which);
