@@ -58,7 +58,7 @@ std::vector<Band> titleBands(const QString& title, const Wording& wording) {
 
 Band pageNumberBand(const report::PageInfo& page, const Wording& wording) {
     const report::Captions& captions = wording.captions;
-    Band band{.name = u"footer"_s, .rules = {{.edge = report::Rule::Edge::Top, .x = 0, .width = listWidth}}};
+    Band band{.name = u"footer"_s, .rules = {{.edge = report::RuledLine::Edge::Top, .x = 0, .width = listWidth}}};
     const auto number = [](int value) { return label({}, QString::number(value), oneLine); };
     addValue(band, {.x = 0, .captionWidth = 13, .width = 28}, captions[u"ppl_halaman"_s], number(page.number));
     addValue(band, {.x = 28, .captionWidth = 7, .width = 24}, captions[u"ppl_dari"_s], number(page.count));

@@ -7,7 +7,7 @@ using report::Band;
 using report::field;
 using report::label;
 using report::Place;
-using report::Rule;
+using report::RuledLine;
 using report::sumOf;
 
 namespace payroll {
@@ -32,7 +32,7 @@ constexpr Column middle{.x = 56, .captionWidth = 20, .width = 80};
 constexpr Column right{.x = 138, .captionWidth = 21, .width = listWidth - 138};
 
 Band whoLine(const report::Captions& captions, const data::DataSet& sql_detail) {
-    Band band{.name = u"group"_s, .height = 5.5, .rules = {{.edge = Rule::Edge::Top, .x = 0, .width = listWidth}}};
+    Band band{.name = u"group"_s, .height = 5.5, .rules = {{.edge = RuledLine::Edge::Top, .x = 0, .width = listWidth}}};
     addValue(band, left, captions[u"ppl_pin"_s], field({}, sql_detail, u"pin"_s));
     addValue(band, middle, captions[u"ppl_nama"_s], field({}, sql_detail, u"nama"_s, bold));
     addValue(band, right, captions[u"ppl_jabatan"_s], field({}, sql_detail, u"func_name"_s));
@@ -53,7 +53,7 @@ Band columnHeads(const report::Captions& captions) {
             .items = {label(kode, captions[u"ppl_kode"_s], bold), label(komponen, captions[u"ppl_komponen"_s], bold),
                       label(keterangan, captions[u"ppl_keterangan"_s], bold),
                       label(uang, captions[u"ppl_jumlah_uang"_s], boldNumber)},
-            .rules = {{.edge = Rule::Edge::Bottom, .x = kode.x, .width = listWidth - kode.x}}};
+            .rules = {{.edge = RuledLine::Edge::Bottom, .x = kode.x, .width = listWidth - kode.x}}};
 }
 
 struct ListNames {
@@ -75,7 +75,7 @@ report::List componentList(data::DataSet& lines, const ListNames& names, const Q
             .summary = {.name = names.summary,
                         .height = 5.5,
                         .items = {label(komponen, total, bold), amount(uang, sum, boldNumber)},
-                        .rules = {{.edge = Rule::Edge::Top, .x = uang.x, .width = uang.width}}}};
+                        .rules = {{.edge = RuledLine::Edge::Top, .x = uang.x, .width = uang.width}}}};
 }
 
 } // namespace

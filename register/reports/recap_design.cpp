@@ -6,7 +6,7 @@ using report::Band;
 using report::field;
 using report::label;
 using report::Place;
-using report::Rule;
+using report::RuledLine;
 using report::sumOf;
 
 namespace payroll {
@@ -34,8 +34,8 @@ Band columnHeads(const report::Captions& captions) {
                       label(jabatan, captions[u"ppl_jabatan"_s], headLook),
                       label(cabang, captions[u"ppl_cabang"_s], headLook),
                       label(jumlah, captions[u"ppl_jumlah_gaji"_s], numberHeadLook)},
-            .rules = {{.edge = Rule::Edge::Top, .x = 0, .width = listWidth},
-                      {.edge = Rule::Edge::Bottom, .x = 0, .width = listWidth}}};
+            .rules = {{.edge = RuledLine::Edge::Top, .x = 0, .width = listWidth},
+                      {.edge = RuledLine::Edge::Bottom, .x = 0, .width = listWidth}}};
 }
 
 Band employeeLine(const data::DataSet& sql_detail) {
@@ -51,7 +51,7 @@ Band totalLine(const QString& caption, double total) {
             .height = 6,
             .items = {label(cabang, caption, bold), report::amount(
                                                         jumlah, [total] { return total; }, bold)},
-            .rules = {{.edge = Rule::Edge::Top, .x = 0, .width = listWidth}}};
+            .rules = {{.edge = RuledLine::Edge::Top, .x = 0, .width = listWidth}}};
 }
 
 } // namespace

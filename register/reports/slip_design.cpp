@@ -7,7 +7,7 @@ using report::Band;
 using report::field;
 using report::label;
 using report::Place;
-using report::Rule;
+using report::RuledLine;
 using report::sumOf;
 
 namespace payroll {
@@ -81,13 +81,13 @@ report::List componentList(data::DataSet& lines, const ListWords& words, const r
             .head = {.name = words.band,
                      .height = 5.1,
                      .items = {label({.x = 0, .width = halfWidth}, words.head, bold)},
-                     .rules = {{.edge = Rule::Edge::Bottom, .x = 0, .width = halfWidth}}},
+                     .rules = {{.edge = RuledLine::Edge::Bottom, .x = 0, .width = halfWidth}}},
             .line = {.name = words.band,
                      .items = {ppDBT_kode, field(komponen, lines, u"com_name"_s), ppDBT_faktor, ppDBT_kondisi,
                                label(sama, u"="_s, oneLine), amount(uang, lines, u"jml_uang"_s)}},
             .summary = {.name = words.band,
                         .items = {label(jumlah, words.total, bold), amount(uang, sum, boldNumber)},
-                        .rules = {{.edge = Rule::Edge::Top, .x = 0, .width = halfWidth}}}};
+                        .rules = {{.edge = RuledLine::Edge::Top, .x = 0, .width = halfWidth}}}};
 }
 
 report::SideBySide lists(const Sources& sources, const report::Captions& captions) {
@@ -115,8 +115,9 @@ private:
     static constexpr double signerWidth = 45;
 
     static Band line() {
-        return {
-            .name = u"foot"_s, .height = lineHeight, .rules = {{.edge = Rule::Edge::Left, .x = middleX, .width = 0}}};
+        return {.name = u"foot"_s,
+                .height = lineHeight,
+                .rules = {{.edge = RuledLine::Edge::Left, .x = middleX, .width = 0}}};
     }
     [[nodiscard]] const QString& caption(const QString& name) const { return m_wording.captions[name]; }
     void addStub(Band& band, const QString& captionName, const QString& fieldName) const;
@@ -153,7 +154,7 @@ void Foot::addSigners(Band& band, report::Item giver, report::Item taker) {
 
 std::vector<report::Part> Foot::bands() const {
     std::vector<Band> lines(7, line());
-    lines[0].rules.push_back({.edge = Rule::Edge::Top, .x = 0, .width = innerWidth});
+    lines[0].rules.push_back({.edge = RuledLine::Edge::Top, .x = 0, .width = innerWidth});
     addNetPay(lines[0], leftColumn);
     addPrintTime(lines[0]);
     addValue(lines[1], leftColumn, caption(u"ppl_nama_perusahaan"_s), label({}, m_wording.heading.ppl_nama_persh));
@@ -164,7 +165,7 @@ std::vector<report::Part> Foot::bands() const {
     addStub(lines[4], u"ppl_nik"_s, u"nik"_s);
     addStub(lines[5], u"ppl_nama_karyawan_slip"_s, u"nama"_s);
     for (const double x : {rightX, innerWidth - signerWidth})
-        lines[5].rules.push_back({.edge = Rule::Edge::Top, .x = x, .width = signerWidth});
+        lines[5].rules.push_back({.edge = RuledLine::Edge::Top, .x = x, .width = signerWidth});
     addSigners(lines[5], label({}, m_wording.heading.ppl_user), field({}, m_sources.sql_detail, u"nama"_s));
     addStub(lines[6], u"ppl_jabatan"_s, u"func_name"_s);
     addPrintTime(lines[6]);

@@ -37,7 +37,7 @@ struct Item {
 
 /// A line from side to side at an edge of its band, or from top to bottom at its left end; it follows a band that
 /// grows.
-struct Rule {
+struct RuledLine {
     enum class Edge { Top, Bottom, Left };
 
     Edge edge = Edge::Bottom;
@@ -50,7 +50,7 @@ struct Band {
     QString name{};
     double height = lineMm; ///< millimetres; none: nothing is printed and the hooks still run
     std::vector<Item> items{};
-    std::vector<Rule> rules{};
+    std::vector<RuledLine> rules{};
 };
 
 [[nodiscard]] inline Band noBand() {

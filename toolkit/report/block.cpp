@@ -125,11 +125,11 @@ double BlockPrinter::item(const Item& item, const QString& band, QPointF at) {
 }
 
 void BlockPrinter::rules(const Band& band, const QRectF& box) {
-    for (const Rule& rule : band.rules) {
+    for (const RuledLine& rule : band.rules) {
         QRectF line(box.x() + rule.x, box.y(), rule.width, 0);
-        if (rule.edge == Rule::Edge::Bottom)
+        if (rule.edge == RuledLine::Edge::Bottom)
             line.moveTop(box.bottom() - bottomRuleMm);
-        if (rule.edge == Rule::Edge::Left)
+        if (rule.edge == RuledLine::Edge::Left)
             line.setHeight(box.height());
         m_block.marks.push_back({.kind = Mark::Kind::Rule, .band = band.name, .box = line});
     }
