@@ -69,34 +69,36 @@ QString filled(QString expression, const QString& condition) {
 }
 
 /// Only the first part that has rows counts, so the parts have to be told apart where there are two.
-QString partColumn(const Figure& figure, const FigurePart& part) {
-    return figure.parts.size() > 1 ? u", %1 as bagian"_s.arg(&part - figure.parts.data()) : QString();
+QString partColumn(const Figure& figure, std::size_t place) {
+    return figure.parts.size() > 1 ? u", %1 as bagian"_s.arg(place) : QString();
 }
 
 // The select of a derived table with one row per employee: the rounded sum of the amounts, or the number of rows.
 
-QString amountSelect(const Figure& figure, const FigurePart& part, Rows rows) {
+QString amountSelect(const Figure& figure, std::size_t place, Rows rows) {
+    const FigurePart& part = figure.parts[place];
     const QString employee = column(*part.table, "emp_id_auto"_L1);
     const QString join = holidayJoin(part) + part.table->setting;
-    return u"select %1, %2 as %3"_s.arg(employee, filled(part.amount, {}), figure.value) + partColumn(figure, part) +
+    return u"select %1, %2 as %3"_s.arg(employee, filled(part.amount, {}), figure.value) + partColumn(figure, place) +
            u" from %1%2 where %3 group by %4 "_s.arg(from(*part.table), join, where(part, rows), employee);
 }
 
-QString daysSelect(const Figure& figure, const FigurePart& part, Rows rows) {
+QString daysSelect(const Figure& figure, std::size_t place, Rows rows) {
+    const FigurePart& part = figure.parts[place];
     const QString employee = column(*part.table, "emp_id_auto"_L1);
     const QString date = dateColumn(*part.table);
     const QString perDate = u"select %1, %2, %3 as %4 from %5%6 where %7 group by %1, %2 "_s.arg(
         employee, date, filled(part.days, {}), figure.value, from(*part.table), holidayJoin(part), where(part, rows));
     return u"select emp_id_auto, %1, round(sum(%2),2) as %2"_s.arg(part.table->date, figure.value) +
-           partColumn(figure, part) + u" from (%1) as %2 group by emp_id_auto "_s.arg(perDate, figure.alias);
+           partColumn(figure, place) + u" from (%1) as %2 group by emp_id_auto "_s.arg(perDate, figure.alias);
 }
 
-QString joined(const Figure& figure, QString (*select)(const Figure&, const FigurePart&, Rows), const QString& alias) {
+QString joined(const Figure& figure, QString (*select)(const Figure&, std::size_t, Rows), const QString& alias) {
     // The figures that follow the attendance setting have no employee test inside: the outer one picks the row.
     const bool forEveryone = figure.countSwitch.sum_id == attendanceSwitch.sum_id;
     QStringList parts;
-    for (const FigurePart& part : figure.parts)
-        parts << select(figure, part, forEveryone ? Rows::OfEveryone : Rows::OfTheEmployee);
+    for (std::size_t place = 0; place < figure.parts.size(); ++place)
+        parts << select(figure, place, forEveryone ? Rows::OfEveryone : Rows::OfTheEmployee);
     return u" left join (%1) as %2 on e.emp_id_auto=%2.emp_id_auto"_s.arg(parts.join(" union all "_L1), alias);
 }
 

@@ -45,7 +45,6 @@ struct CountSwitch {
 /// One attendance figure. Of several parts only the first one with rows for an employee counts; they are not added.
 struct Figure {
     int id_kode_report = 0;
-    QLatin1String query;
     QLatin1String column; ///< result column
     QLatin1String alias;  ///< of the derived tables in the statement
     QLatin1String value;  ///< column inside the derived tables

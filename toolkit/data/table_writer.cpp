@@ -5,6 +5,7 @@
 #include "toolkit/db/parameters.h"
 
 #include <algorithm>
+#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -60,17 +61,15 @@ std::vector<QVariant> TableWriter::keyOf(const Record& record) const {
 QString TableWriter::deleteRows(std::span<const Record* const> rows) const {
     QString sql = u"DELETE FROM %1 WHERE "_s.arg(quotedName(m_table));
     const QString last = columnOf(m_keys.back());
-    QString open;
+    std::optional<QString> open; // what the rows of the list that is being written share
     for (const Record* row : rows) {
         // Rows that share all keys but the last stand in one list, which the server reads as points of its index.
         const QString shared = keysButLast(*row);
-        if (open.isNull())
-            sql += shared + last + u" IN ("_s;
-        else if (shared == open)
+        if (open == shared)
             sql += u',';
         else
-            sql += u") OR "_s + shared + last + u" IN ("_s;
-        open = shared.isNull() ? u""_s : shared;
+            sql += (open ? u") OR "_s : QString()) + shared + last + u" IN ("_s;
+        open = shared;
         sql += literalOf(*row, m_keys.back());
     }
     return sql + u')';
