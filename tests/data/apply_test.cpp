@@ -152,6 +152,9 @@ TEST_F(Apply, GivesAnEmptiedServerEveryRecordUnderItsNewKey) {
     copy.sendEverything();
     EXPECT_EQ(stored(u"a, b, s"_s).last(3), QStringList({u"2\t1\tsatu"_s, u"2\t2\tdua"_s, u"2\t3\ttiga"_s}));
     EXPECT_EQ(listing(copy), "[2 1 10 satu NULL NULL 0]") << "the filter stays";
+    copy.setFilter(u"a"_s, 9);
+    copy.setEverywhere(u"a", 9);
+    EXPECT_EQ(copy.rowCount(), 3) << "what the filter hid comes to light";
 }
 
 TEST_F(Apply, RefusesANumberThatItsColumnWouldClip) {
