@@ -54,10 +54,7 @@ public:
     }
 
 private:
-    [[nodiscard]] qint32 upToUnit(qint32 amount) const {
-        const qint64 rest = qint64(amount) % m_terms.def_pembulatan;
-        return rest > 0 ? wrapped32(amount - rest + m_terms.def_pembulatan) : amount;
-    }
+    [[nodiscard]] qint32 upToUnit(qint32 amount) const { return bulat_ke_atas(amount, m_terms.def_pembulatan); }
 
     [[nodiscard]] qint32 roundedUp(Extended value) const { return upToUnit(whole(value)); }
 

@@ -3,7 +3,7 @@
 #: main-file company.sql
 #: app insert into global_setting values('default_lang', 'indonesia'), ('tanggal_awal_proses', '2026-10-01'), ('tanggal_akhir_proses', '2026-10-31')
 start
-state Image1
+state Image3
 state lbl_3
 choose cmb_filter Nama
 type edt_filter Ani

@@ -103,9 +103,10 @@ Texts textsOfProgram(QStringList& classes) {
     collect.form(Tfrm_preview(report::Document{}, nullptr));
     collect.form(Tfrm_daftar(services, base::Notices::emptyList(), nullptr));
     collect.form(Tfrm_daftar(services, leftOutList({}), nullptr));
-    collect.form(Tfrm_hitung_gaji(services, nullptr));
     collect.form(Tfrm_komponen(services, nullptr));
     collect.form(Tfrm_isian_komponen(services, {}, nullptr));
+    // The texts of its papers belong to it.
+    collect.form(Tfrm_hitung_gaji(services, nullptr));
     const report::Captions captions = payroll::defaultCaptions();
     for (auto caption = captions.byName().begin(); caption != captions.byName().end(); ++caption)
         collect.add(caption.key(), -1, caption.value());
