@@ -110,7 +110,7 @@ void Tfrm_menu::connectHandlers() {
 bool Tfrm_menu::FormCreate() {
     try {
         m_ping.emplace();
-    } catch (const platform::PingUnavailable& fault) {
+    } catch (const platform::PingFault& fault) {
         qCInfo(base::startLog) << "no echo can be sent:" << fault.what();
         showFault(nullptr, fault);
         return false;

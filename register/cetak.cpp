@@ -78,7 +78,7 @@ void Tfrm_hitung_gaji::print(const QString& entry, const MakeReport& make) {
         Tfrm_preview& preview = Tfrm_preview::open(std::move(*document), window());
         preview.setWindowTitle(captionText(pmn_cetak->findChild<QAction*>(entry)->text()));
         m_services.language.ApplyLanguage(preview);
-    } catch (const report::NoRoom&) {
+    } catch (const report::NoRoomFault&) {
         m_services.messages.error(this, tidak_muat);
     }
 }

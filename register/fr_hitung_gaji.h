@@ -57,7 +57,7 @@ private:
     void show_true_sum();
     /// The runs to print; none, with a message, where none is ticked.
     [[nodiscard]] std::optional<payroll::Request> ticked_runs();
-    /// Throws report::NoRoom.
+    /// Throws report::NoRoomFault.
     [[nodiscard]] std::optional<report::Document> compose(const payroll::Request& request, const MakeReport& make);
     /// Previews a report under the caption of its menu entry; what makes no document shows nothing.
     void print(const QString& entry, const MakeReport& make);

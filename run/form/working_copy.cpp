@@ -228,7 +228,7 @@ Saved WorkingCopy::save() {
         db::inTransaction(m_main, [this] { send(); });
     } catch (const Refusal& refusal) {
         return refusal.outcome;
-    } catch (const db::CommitUnknown&) {
+    } catch (const db::CommitUnknownFault&) {
         const std::optional<bool> stored = isStored();
         if (!stored)
             return Saved::NotKnown;

@@ -95,7 +95,7 @@ int main(int argc, char** argv) {
         if (mode == "silent" && !silence(ping))
             return exitNotPossible;
         std::cout << (ping.PingHost(address) ? "answered" : "silent") << std::endl;
-    } catch (const platform::PingUnavailable& fault) {
+    } catch (const platform::PingFault& fault) {
         std::cout << fault.what() << std::endl;
     }
 }

@@ -99,9 +99,9 @@ TEST(Breaking, HeaderAndFooterMustLeaveRoomForALine) {
         return compose(orders.report).pages.size();
     };
     EXPECT_EQ(withHeader(9), 5u);
-    EXPECT_THROW((void)withHeader(10), report::NoRoom);
+    EXPECT_THROW((void)withHeader(10), report::NoRoomFault);
     orders.report.section.frame->padding = 1;
-    EXPECT_THROW((void)withHeader(9), report::NoRoom);
+    EXPECT_THROW((void)withHeader(9), report::NoRoomFault);
 }
 
 TEST(Breaking, TextsThatNobodyReadsTakeOnePageAndCanBeDrawn) {

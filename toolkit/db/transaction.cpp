@@ -32,7 +32,7 @@ void Transaction::commit() {
         m_connection.execute(u"COMMIT"_s);
     } catch (const Fault& fault) {
         if (canArrive && fault.stopsWork())
-            throw CommitUnknown(fault.what());
+            throw CommitUnknownFault(fault.what());
         throw;
     }
     m_connection.m_inTransaction = false;

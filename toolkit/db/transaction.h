@@ -8,7 +8,7 @@ namespace db {
 
 /// The connection was lost while the server was committing: what the transaction did is stored whole or not at all,
 /// and only a look at the tables tells which.
-class CommitUnknown final : public fault::Fault {
+class CommitUnknownFault final : public fault::Fault {
 public:
     using fault::Fault::Fault;
 };
@@ -23,7 +23,7 @@ public:
     Transaction(const Transaction&) = delete;
     Transaction& operator=(const Transaction&) = delete;
 
-    /// Throws Fault where nothing was stored, CommitUnknown where that is not known.
+    /// Throws Fault where nothing was stored, CommitUnknownFault where that is not known.
     void commit();
 
 private:

@@ -19,7 +19,7 @@ namespace platform {
 [[nodiscard]] QString ResolveHost(const QString& text);
 
 /// No echo can be sent from this process; the text is meant for the user.
-class PingUnavailable final : public fault::Fault {
+class PingFault final : public fault::Fault {
 public:
     using fault::Fault::Fault;
 };
@@ -32,7 +32,7 @@ public:
 /// installed ping where this user is refused both.
 class PingSocket final {
 public:
-    /// Throws PingUnavailable.
+    /// Throws PingFault.
     PingSocket();
 
     /// Sends one echo of 100 bytes with a time-to-live of 64 to a dotted address and waits for its reply. False where

@@ -133,7 +133,7 @@ PingSocket::PingSocket() : m_socket(icmpSocket(SOCK_DGRAM)) {
     if (!m_socket)
         takeProgram(pingFailureText(datagramError, errno));
     else if (::setsockopt(m_socket.get(), IPPROTO_IP, IP_TTL, &timeToLive, sizeof timeToLive) != 0)
-        throw PingUnavailable(pingFailureText(errno, errno));
+        throw PingFault(pingFailureText(errno, errno));
 }
 
 void PingSocket::takeProgram(const char* failure) {
@@ -141,7 +141,7 @@ void PingSocket::takeProgram(const char* failure) {
     if (failure == std::string_view(refusedText))
         m_program = installedPing();
     if (m_program.isEmpty() || !mayPing(m_program))
-        throw PingUnavailable(failure);
+        throw PingFault(failure);
     qCInfo(platformLog) << "no socket for echoes; they go through" << m_program;
 }
 

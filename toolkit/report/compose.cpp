@@ -102,7 +102,7 @@ std::vector<FilledPage> body(const Report& report, QRectF body, TypeSetter& type
     const double room = body.height() - 2 * padding;
     // Below a line's height the pages would never come to an end.
     if (room < lineMm - tinyMm)
-        throw NoRoom();
+        throw NoRoomFault();
     Pages pages(report.section, body);
     BlockPrinter printer(type, linesIn(room));
     data::DataSet& master = *report.master;

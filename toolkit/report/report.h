@@ -65,14 +65,14 @@ struct Report {
 };
 
 /// Header and footer leave no room for a line between them.
-class NoRoom final : public std::runtime_error {
+class NoRoomFault final : public std::runtime_error {
 public:
-    NoRoom() : std::runtime_error("header and footer fill the page") {}
+    NoRoomFault() : std::runtime_error("header and footer fill the page") {}
 };
 
 /// Prints the report from the first record to the last; without records it is one page. The sets must be open. The
 /// master's cursor stays where it was; linked sets keep the filter of the last record. A text that is longer than a
-/// page ends with an ellipsis. Throws NoRoom.
+/// page ends with an ellipsis. Throws NoRoomFault.
 [[nodiscard]] Document compose(const Report& report);
 
 } // namespace report

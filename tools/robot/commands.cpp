@@ -30,7 +30,7 @@ int wholeNumber(const QString& word) {
     bool isNumber = false;
     const int number = word.toInt(&isNumber);
     if (!isNumber)
-        throw CommandError(u"%1 is no number"_s.arg(word));
+        throw CommandFault(u"%1 is no number"_s.arg(word));
     return number;
 }
 
@@ -38,7 +38,7 @@ QWidget* focusOn(QWidget* control, const QString& path) {
     control->setFocus(Qt::MouseFocusReason);
     Robot::settle();
     if (isReadOnly(control))
-        throw CommandError(u"%1 is read-only"_s.arg(path));
+        throw CommandFault(u"%1 is read-only"_s.arg(path));
     return control;
 }
 
@@ -62,7 +62,7 @@ void chooseDate(QDateTimeEdit* picker, const QString& path, const QDate& date) {
     }
     QCalendarWidget* calendar = dropCalendar(picker);
     if (!calendar || date < calendar->minimumDate() || date > calendar->maximumDate())
-        throw CommandError(u"%1 offers no day %2"_s.arg(path, date.toString(Qt::ISODate)));
+        throw CommandFault(u"%1 offers no day %2"_s.arg(path, date.toString(Qt::ISODate)));
     calendar->setSelectedDate(date);
     QTest::keyClick(calendar->focusProxy(), Qt::Key_Return);
     giveFocusBack(picker);
@@ -82,7 +82,7 @@ void stepTo(QSpinBox* box, const QString& path, int wanted) {
         const bool isNearer = alive && (up ? box->value() > before && box->value() <= wanted
                                            : box->value() < before && box->value() >= wanted);
         if (alive && !isNearer)
-            throw CommandError(u"%1 does not reach %2 by its arrows"_s.arg(path).arg(wanted));
+            throw CommandFault(u"%1 does not reach %2 by its arrows"_s.arg(path).arg(wanted));
     }
 }
 
@@ -103,7 +103,7 @@ void setValue(QWidget* control, const QString& path, const QString& value) {
     else if (auto* number = qobject_cast<QSpinBox*>(control))
         return stepTo(number, path, wholeNumber(value));
     else
-        throw CommandError(u"%1 does not take %2"_s.arg(path, quoted(value)));
+        throw CommandFault(u"%1 does not take %2"_s.arg(path, quoted(value)));
     QMetaObject::invokeMethod(control, "editingFinished");
 }
 
@@ -113,11 +113,11 @@ void turnToPage(QTabWidget* pages, const QString& path, const QString& caption) 
         if (captionText(pages->tabText(page)) != caption || !pages->isTabVisible(page))
             continue;
         if (!pages->isTabEnabled(page))
-            throw CommandError(u"%1 is disabled"_s.arg(quoted(caption)));
+            throw CommandFault(u"%1 is disabled"_s.arg(quoted(caption)));
         clickPoint(bar, bar->tabRect(page).center());
         return;
     }
-    throw CommandError(u"%1 has no page %2"_s.arg(path, quoted(caption)));
+    throw CommandFault(u"%1 has no page %2"_s.arg(path, quoted(caption)));
 }
 
 void chooseEntry(QWidget* control, const QString& path, const QString& text) {
@@ -127,10 +127,10 @@ void chooseEntry(QWidget* control, const QString& path, const QString& text) {
         return turnToPage(pages, path, text);
     auto* combo = qobject_cast<QComboBox*>(control);
     if (!combo)
-        throw CommandError(u"%1 has nothing to choose from"_s.arg(path));
+        throw CommandFault(u"%1 has nothing to choose from"_s.arg(path));
     const int index = text.isEmpty() ? -1 : combo->findText(text);
     if (index < 0 && !text.isEmpty())
-        throw CommandError(u"%1 has no entry %2"_s.arg(path, quoted(text)));
+        throw CommandFault(u"%1 has no entry %2"_s.arg(path, quoted(text)));
     focusOn(control, path);
     combo->setCurrentIndex(index);
     QMetaObject::invokeMethod(combo, "activated", Q_ARG(int, index));
@@ -138,7 +138,7 @@ void chooseEntry(QWidget* control, const QString& path, const QString& text) {
 
 void leaveControl(QWidget* control, const QString& path) {
     if (!control->hasFocus() && !control->isAncestorOf(QApplication::focusWidget()))
-        throw CommandError(u"%1 has no focus"_s.arg(path));
+        throw CommandFault(u"%1 has no focus"_s.arg(path));
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
 }
 
@@ -162,23 +162,23 @@ void printForms(Robot& robot) {
 void shoot(Robot& robot, const QString& path) {
     const auto forms = robot.forms().openForms();
     if (forms.empty())
-        throw CommandError(u"no form is open"_s);
+        throw CommandFault(u"no form is open"_s);
     if (!forms.front()->window()->grab().save(path, "PNG"))
-        throw CommandError(u"cannot write %1"_s.arg(path));
+        throw CommandFault(u"cannot write %1"_s.arg(path));
 }
 
 const report::Document& openReport(Robot& robot) {
     for (const QWidget* form : robot.forms().openForms())
         if (const auto* preview = qobject_cast<const Tfrm_preview*>(form))
             return preview->document();
-    throw CommandError(u"no preview is open"_s);
+    throw CommandFault(u"no preview is open"_s);
 }
 
 void saveReport(Robot& robot, const QString& path) {
     try {
         savePdf(openReport(robot), path);
     } catch (const report::OutputFault& fault) {
-        throw CommandError(u"cannot write %1: %2"_s.arg(path, QString::fromUtf8(fault.what())));
+        throw CommandFault(u"cannot write %1: %2"_s.arg(path, QString::fromUtf8(fault.what())));
     }
 }
 
@@ -239,9 +239,9 @@ void carryOut(Robot& robot, const QStringList& words) {
         if (const auto found = table->constFind(words.first()); found != table->constEnd())
             action = &*found;
     if (!action)
-        throw CommandError(u"unknown command %1"_s.arg(words.first()));
+        throw CommandFault(u"unknown command %1"_s.arg(words.first()));
     const Words rest = words.mid(1);
     if (rest.size() < action->least || rest.size() > action->most)
-        throw CommandError(u"%1 takes other words"_s.arg(words.first()));
+        throw CommandFault(u"%1 takes other words"_s.arg(words.first()));
     action->run(robot, rest);
 }

@@ -71,25 +71,25 @@ QWidget* findControl(const FormOrder& forms, const QString& path) {
         const std::vector<QWidget*> open = forms.openForms();
         QWidget* control = open.empty() ? nullptr : controlOn(open.front(), path);
         if (!control && !(control = formByName(forms, path)))
-            throw CommandError(u"no control %1 on the topmost form"_s.arg(path));
+            throw CommandFault(u"no control %1 on the topmost form"_s.arg(path));
         return control;
     }
     QWidget* form = formByName(forms, path.left(dot));
     if (!form)
-        throw CommandError(u"no open form %1"_s.arg(path.left(dot)));
+        throw CommandFault(u"no open form %1"_s.arg(path.left(dot)));
     if (QWidget* control = controlOn(form, path.mid(dot + 1)))
         return control;
-    throw CommandError(u"no control %1"_s.arg(path));
+    throw CommandFault(u"no control %1"_s.arg(path));
 }
 
 QWidget* findReachable(const FormOrder& forms, const QString& path) {
     QWidget* control = findControl(forms, path);
     if (!control->isVisible())
-        throw CommandError(u"%1 is not visible"_s.arg(path));
+        throw CommandFault(u"%1 is not visible"_s.arg(path));
     if (!control->isEnabled())
-        throw CommandError(u"%1 is disabled"_s.arg(path));
+        throw CommandFault(u"%1 is disabled"_s.arg(path));
     const QWidget* modal = QApplication::activeModalWidget();
     if (modal && modal != control->window() && !modal->isAncestorOf(control))
-        throw CommandError(u"%1 lies behind %2"_s.arg(path, modal->objectName()));
+        throw CommandFault(u"%1 lies behind %2"_s.arg(path, modal->objectName()));
     return control;
 }

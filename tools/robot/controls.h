@@ -19,7 +19,7 @@ private:
 };
 
 /// Finds a control by "form.control", or "control" on the topmost form, without regard to case; the form's own name
-/// alone means the form. Throws CommandError where there is none.
+/// alone means the form. Throws CommandFault where there is none.
 [[nodiscard]] QWidget* findControl(const FormOrder& forms, const QString& path);
 
 /// The control, after making sure that a person could work on it now: visible, enabled, not behind a modal window.

@@ -22,7 +22,7 @@ namespace {
 DataGrid* gridOf(QWidget* control, const QString& path) {
     auto* grid = qobject_cast<DataGrid*>(control);
     if (!grid)
-        throw CommandError(u"%1 is no grid"_s.arg(path));
+        throw CommandFault(u"%1 is no grid"_s.arg(path));
     return grid;
 }
 
@@ -33,7 +33,7 @@ bool holds(const DataGrid& grid, int row, const QString& condition) {
     if (column >= 0 && grid.rows().textAt(row, column) == wanted)
         return true;
     if (!grid.dataSet()->hasField(name))
-        throw CommandError(u"no field %1"_s.arg(name));
+        throw CommandFault(u"no field %1"_s.arg(name));
     return data::textOf(grid.dataSet()->valueAt(row, grid.dataSet()->fieldIndex(name))) == wanted;
 }
 
@@ -52,7 +52,7 @@ std::vector<int> rowsOf(const DataGrid& grid, const Words& words) {
         if (matches(grid, row, words.mid(1)))
             rows.push_back(row);
     if (rows.empty() && words[1] != u"*")
-        throw CommandError(u"%1 has no row %2"_s.arg(words[0], words.mid(1).join(u' ')));
+        throw CommandFault(u"%1 has no row %2"_s.arg(words[0], words.mid(1).join(u' ')));
     return rows;
 }
 
@@ -90,14 +90,14 @@ int columnThat(Click click, const DataGrid& grid) {
     for (const int column : shownColumns(grid))
         if (isTick(grid, column) == (click == Click::Ticks))
             return column;
-    throw CommandError(u"%1 shows no such column to click"_s.arg(grid.objectName()));
+    throw CommandFault(u"%1 shows no such column to click"_s.arg(grid.objectName()));
 }
 
 void makeRowCurrent(Robot& robot, const Words& words) {
     DataGrid* grid = gridOf(robot.reachable(words[0]), words[0]);
     const std::vector<int> rows = rowsOf(*grid, words);
     if (rows.empty())
-        throw CommandError(u"%1 has no rows"_s.arg(words[0]));
+        throw CommandFault(u"%1 has no rows"_s.arg(words[0]));
     clickCell(*grid, rows.front(), columnThat(Click::OnlySelects, *grid));
 }
 
@@ -117,7 +117,7 @@ void setTicks(Robot& robot, const Words& words, const QString& wanted) {
 void selectRows(Robot& robot, const Words& words) {
     DataGrid* grid = gridOf(robot.reachable(words[0]), words[0]);
     if (grid->selectionMode() == QAbstractItemView::SingleSelection)
-        throw CommandError(u"%1 selects one row at a time"_s.arg(words[0]));
+        throw CommandFault(u"%1 selects one row at a time"_s.arg(words[0]));
     const int column = columnThat(Click::OnlySelects, *grid);
     for (const int row : rowsOf(*grid, words))
         if (!grid->selectionModel()->isSelected(grid->model()->index(row, column)))
@@ -128,10 +128,10 @@ void editCell(Robot& robot, const Words& words) {
     DataGrid* grid = gridOf(robot.reachable(words[0]), words[0]);
     const int column = grid->columnOf(words[1]);
     if (column < 0 || grid->isColumnHidden(column))
-        throw CommandError(u"%1 shows no column %2"_s.arg(words[0], words[1]));
+        throw CommandFault(u"%1 shows no column %2"_s.arg(words[0], words[1]));
     const QModelIndex index = grid->model()->index(grid->currentIndex().row(), column);
     if (!index.isValid() || !(index.flags() & Qt::ItemIsEditable))
-        throw CommandError(u"column %1 of %2 is read-only"_s.arg(words[1], words[0]));
+        throw CommandFault(u"column %1 of %2 is read-only"_s.arg(words[1], words[0]));
     grid->setCurrentIndex(index);
     grid->setFocus(Qt::MouseFocusReason);
     QTest::keyClick(grid, Qt::Key_F2);
@@ -170,7 +170,7 @@ void printColours(Robot& robot, const Words& words) {
 void checkEntries(Robot& robot, const Words& words, Qt::CheckState wanted) {
     auto* list = qobject_cast<QListWidget*>(robot.reachable(words[0]));
     if (!list)
-        throw CommandError(u"%1 is no check list"_s.arg(words[0]));
+        throw CommandFault(u"%1 is no check list"_s.arg(words[0]));
     bool found = words[1] == "*"_L1;
     for (int i = 0; i < list->count(); ++i) {
         QListWidgetItem* item = list->item(i);
@@ -182,25 +182,25 @@ void checkEntries(Robot& robot, const Words& words, Qt::CheckState wanted) {
         list->setCurrentItem(item);
         QTest::keyClick(list, Qt::Key_Space);
         if (i < list->count() && list->item(i)->checkState() != wanted)
-            throw CommandError(u"%1 does not take the tick on %2"_s.arg(words[0], quoted(words[1])));
+            throw CommandFault(u"%1 does not take the tick on %2"_s.arg(words[0], quoted(words[1])));
     }
     if (!found)
-        throw CommandError(u"%1 has no entry %2"_s.arg(words[0], quoted(words[1])));
+        throw CommandFault(u"%1 has no entry %2"_s.arg(words[0], quoted(words[1])));
 }
 
 void chooseMenuEntry(Robot&, const Words& words) {
     auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     if (!menu)
-        throw CommandError(u"no menu is dropped down"_s);
+        throw CommandFault(u"no menu is dropped down"_s);
     for (QAction* entry : menu->actions()) {
         if (captionText(entry->text()) != words[0] || !entry->isVisible())
             continue;
         if (!entry->isEnabled())
-            throw CommandError(u"%1 is disabled"_s.arg(words[0]));
+            throw CommandFault(u"%1 is disabled"_s.arg(words[0]));
         clickPoint(menu, menu->actionGeometry(entry).center());
         return;
     }
-    throw CommandError(u"the menu has no entry %1"_s.arg(quoted(words[0])));
+    throw CommandFault(u"the menu has no entry %1"_s.arg(quoted(words[0])));
 }
 
 QTreeWidgetItem* childEntry(QTreeWidgetItem* parent, const QString& text) {
@@ -219,7 +219,7 @@ bool chooseInTree(QWidget* control, const QString& path, const QString& steps) {
     QTreeWidgetItem* entry = box->tree().invisibleRootItem();
     for (const QString& step : steps.split(u'/'))
         if (!(entry = childEntry(entry, step)))
-            throw CommandError(u"%1 has no entry %2"_s.arg(path, quoted(steps)));
+            throw CommandFault(u"%1 has no entry %2"_s.arg(path, quoted(steps)));
     clickPoint(box, box->rect().center());
     box->tree().scrollToItem(entry);
     clickPoint(box->tree().viewport(), box->tree().visualItemRect(entry).center());

@@ -41,7 +41,7 @@ void pressKeys(QWidget* topmost, const QString& name) {
         giveFocusBack(topmost);
     QWindow* window = QGuiApplication::focusWindow();
     if (keys.count() != 1 || keys[0].key() == Qt::Key_unknown || !window)
-        throw CommandError(u"cannot press %1"_s.arg(name));
+        throw CommandFault(u"cannot press %1"_s.arg(name));
     // The window's road, not the control's: only there do shortcuts act.
     QTest::keyClick(window, keys[0].key(), keys[0].keyboardModifiers());
     // A button that is pressed by its shortcut stays down for a tenth of a second before it acts.

@@ -10,5 +10,5 @@ void typeText(QWidget* control, const QString& text);
 void giveFocusBack(QWidget* control);
 
 /// Presses a key or a combination such as "Alt+S" where the focus is, on the topmost form; shortcuts act. Throws
-/// CommandError on a name that no key has.
+/// CommandFault on a name that no key has.
 void pressKeys(QWidget* topmost, const QString& name);

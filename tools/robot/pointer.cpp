@@ -28,7 +28,7 @@ QPoint reachablePoint(QWidget* control, const QString& path) {
     const QPoint point = control->mapTo(window, markOrMiddle(control));
     const QWidget* hit = window->childAt(point);
     if (hit != control && !control->isAncestorOf(hit) && control != window)
-        throw CommandError(u"%1 is covered or scrolled out of sight"_s.arg(path));
+        throw CommandFault(u"%1 is covered or scrolled out of sight"_s.arg(path));
     return point;
 }
 

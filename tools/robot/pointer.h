@@ -3,7 +3,7 @@
 #include <QPoint>
 #include <QWidget>
 
-/// Clicks the control where a hand would: a check box on its mark, anything else in its middle. Throws CommandError
+/// Clicks the control where a hand would: a check box on its mark, anything else in its middle. Throws CommandFault
 /// where another widget lies over that point.
 void clickControl(QWidget* control, const QString& path);
 

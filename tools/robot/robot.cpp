@@ -99,7 +99,7 @@ void Robot::step() {
             closeLeftOpen(front);
         else
             finish();
-    } catch (const CommandError& error) {
+    } catch (const CommandFault& error) {
         fail(QString::fromUtf8(error.what()));
     }
 }

@@ -65,5 +65,5 @@ private:
     std::unique_ptr<frame::Program> m_program; // goes first: what follows events is still there then
 };
 
-/// Carries out one command. Throws CommandError.
+/// Carries out one command. Throws CommandFault.
 void carryOut(Robot& robot, const QStringList& words);

@@ -33,7 +33,7 @@ QStringList splitWords(const QString& line) {
             words.last() += c;
     }
     if (inQuotes)
-        throw CommandError(u"a quote is not closed"_s);
+        throw CommandFault(u"a quote is not closed"_s);
     return words;
 }
 

@@ -42,7 +42,7 @@ QString shownText(const QWidget* control) {
             return hasShortcut ? captionText(text.toString()) : text.toString();
     if (!control->windowTitle().isEmpty())
         return control->windowTitle();
-    throw CommandError(u"%1 shows no text"_s.arg(control->objectName()));
+    throw CommandFault(u"%1 shows no text"_s.arg(control->objectName()));
 }
 
 QStringList shownItems(const QWidget* control) {
@@ -63,7 +63,7 @@ QStringList shownItems(const QWidget* control) {
             items << captionText(tabs->tabText(i));
         return items;
     }
-    throw CommandError(u"%1 has no entries"_s.arg(control->objectName()));
+    throw CommandFault(u"%1 has no entries"_s.arg(control->objectName()));
 }
 
 bool isReadOnly(const QWidget* control) {

@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <QWidget>
 
-/// What a person reads on the control: its text, -1 or 0 for a check box, a date as shown. Throws CommandError for a
+/// What a person reads on the control: its text, -1 or 0 for a check box, a date as shown. Throws CommandFault for a
 /// control that shows no text.
 [[nodiscard]] QString shownText(const QWidget* control);
 

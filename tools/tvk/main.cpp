@@ -15,14 +15,14 @@ namespace {
 
 constexpr int exitFailed = 2;
 
-struct UsageError final : std::runtime_error {
+struct UsageFault final : std::runtime_error {
     using std::runtime_error::runtime_error;
 };
 
 QString standardInputLine() {
     std::string line;
     if (!std::getline(std::cin, line))
-        throw UsageError("no password on standard input");
+        throw UsageFault("no password on standard input");
     if (line.ends_with('\r'))
         line.pop_back();
     return QString::fromStdString(line);
@@ -30,14 +30,14 @@ QString standardInputLine() {
 
 QString required(const QCommandLineParser& parser, const QString& name) {
     if (!parser.isSet(name))
-        throw UsageError("--" + name.toStdString() + " is missing");
+        throw UsageFault("--" + name.toStdString() + " is missing");
     return parser.value(name);
 }
 
 QString filled(const QCommandLineParser& parser, const QString& name) {
     QString value = required(parser, name);
     if (value.isEmpty())
-        throw UsageError("--" + name.toStdString() + " must not be empty");
+        throw UsageFault("--" + name.toStdString() + " must not be empty");
     return value;
 }
 
@@ -45,7 +45,7 @@ quint16 portNumber(const QString& text) {
     bool isNumber = false;
     const quint16 port = text.toUShort(&isNumber);
     if (!isNumber || port == 0)
-        throw UsageError("--port takes a number from 1 to 65535");
+        throw UsageFault("--port takes a number from 1 to 65535");
     return port;
 }
 
@@ -89,18 +89,18 @@ void addOptions(QCommandLineParser& parser) {
 
 void run(QCommandLineParser& parser) {
     if (!parser.parse(QCoreApplication::arguments()))
-        throw UsageError(parser.errorText().toStdString());
+        throw UsageFault(parser.errorText().toStdString());
     if (parser.isSet(u"help"_s))
         parser.showHelp();
     if (parser.positionalArguments().size() != 1)
-        throw UsageError("exactly one FILE is needed");
+        throw UsageFault("exactly one FILE is needed");
     const QString path = parser.positionalArguments().constFirst();
     if (!parser.isSet(u"show"_s))
         settings::writeSettingsFile(path, settingsFrom(parser), groupFrom(parser));
     else if (parser.optionNames().size() == 1)
         show(path);
     else
-        throw UsageError("--show takes no other option");
+        throw UsageFault("--show takes no other option");
 }
 
 } // namespace
@@ -112,7 +112,7 @@ int main(int argc, char** argv) {
     try {
         run(parser);
         return EXIT_SUCCESS;
-    } catch (const UsageError& fault) {
+    } catch (const UsageFault& fault) {
         std::cerr << "tvk: " << fault.what() << "\ntvk --help tells the options\n";
     } catch (const settings::SettingsFileError& fault) {
         std::cerr << "tvk: " << fault.what() << '\n';
