@@ -175,9 +175,9 @@ void Tfrm_hitung_gaji::open_list() {
 void Tfrm_hitung_gaji::open_employees() {
     sql_d.close();
     close_details();
+    show_true_sum();
     sql_d.open();
     FitGridColumns(*m_ui->dbg_d);
-    show_true_sum();
 }
 
 /// The list of employees repeats those of several groups, so the server adds up.
@@ -215,8 +215,8 @@ void Tfrm_hitung_gaji::show_sums(const QString& between) {
 }
 
 void Tfrm_hitung_gaji::dbg_mClick() {
-    open_employees();
     m_ui->lbl_emp_isi->setText(u"[ "_s + cds_m.text(u"process_name") + u" ]"_s);
+    open_employees();
     open_details();
     show_sums(u" ] ~ "_s);
 }
