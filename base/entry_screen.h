@@ -6,8 +6,6 @@
 
 #include <initializer_list>
 
-class QLineEdit;
-
 /// What an entry screen was opened for.
 enum class EntryMode { New, Edit, View };
 

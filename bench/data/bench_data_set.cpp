@@ -1,7 +1,6 @@
 // Times the data set at the size of a large run and prints one line per figure: "name: value unit".
 #include "toolkit/data/client_data_set.h"
 #include "toolkit/data/mem_table.h"
-#include "toolkit/db/transaction.h"
 
 #include <QTextStream>
 
@@ -132,10 +131,7 @@ private:
 
 void timedApply(const QString& name, data::ClientDataSet& copy, db::Connection& connection) {
     const qint64 before = connection.statementCount();
-    timed(name, [&] {
-        db::inTransaction(connection, [&] { copy.sendChanges(); });
-        copy.forgetChanges();
-    });
+    timed(name, [&] { copy.applyUpdates(); });
     report(name + u"_statements"_s, double(connection.statementCount() - before), u"statements"_s);
 }
 

@@ -1,5 +1,7 @@
 #include "toolkit/data/client_data_set.h"
 
+#include "toolkit/db/transaction.h"
+
 #include <algorithm>
 #include <set>
 #include <span>
@@ -40,6 +42,15 @@ void ClientDataSet::recordRemoved(RowId row, const Record& last) {
         m_changes.erase(change);
     else
         change->second.kind = Kind::Delete;
+}
+
+void ClientDataSet::applyUpdates() {
+    requireOpen();
+    settle();
+    if (m_changes.empty())
+        return;
+    db::inTransaction(m_provider.query->connection(), [this] { sendChanges(); });
+    forgetChanges();
 }
 
 TableWriter ClientDataSet::writer() {

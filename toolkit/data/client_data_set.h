@@ -16,17 +16,21 @@ struct Provider {
     QStringList neverWritten{}; ///< fields that the statement adds for display
 };
 
-/// A working copy of a query's rows. Opening runs the statement afresh; changes stay here until they are sent and the
-/// caller's transaction is through, so that several copies can share one: send each, commit, then tell each.
+/// A working copy of a query's rows. Opening runs the statement afresh; changes stay here until applyUpdates().
 class ClientDataSet final : public DataSet {
     Q_OBJECT
 
 public:
     explicit ClientDataSet(Provider provider, QObject* parent = nullptr);
 
-    /// Ends a pending edit, then sends deletes, updates, inserts, in this order and many rows at a time. An update
-    /// writes only what differs from the loaded row; a row edited back sends nothing. Rows may exchange their keys. The
-    /// changes stay pending. Throws db::Fault.
+    /// Ends a pending edit, then sends deletes, updates, inserts, in this order and many rows at a time, in one
+    /// transaction. An update writes only what differs from the loaded row; a row edited back sends nothing. Rows may
+    /// exchange their keys. Throws what db::inTransaction throws. All is still pending then, and nothing is stored;
+    /// only after db::CommitUnknownFault it may be.
+    void applyUpdates();
+
+    // The same for several copies in one transaction of the caller's: send each, commit, then tell each.
+    /// Ends a pending edit and sends the changes, which stay pending. Throws db::Fault.
     void sendChanges();
     /// Ends a pending edit and inserts every record, changed or not: for rows that the server has no more.
     void sendEverything();

@@ -82,7 +82,13 @@ void runHandler(
         told->actionSucceeded();
 }
 
-/// Connects a signal with a screen's handler, guarded by runHandler.
+/// Connects a signal with an action on a screen, guarded by runHandler.
+template <typename Sender, typename Signal, typename Action>
+void onEvent(Sender* sender, Signal signal, QWidget* screen, Action action) {
+    QObject::connect(sender, signal, screen, [screen, action] { runHandler(screen, action); });
+}
+
+/// The same with a screen's handler, which may take the signal's arguments.
 template <typename Sender, typename Signal, typename Screen, typename... Arguments>
 void onEvent(Sender* sender, Signal signal, Screen* screen, void (Screen::*handler)(Arguments...)) {
     // A screen that is being destroyed is no longer of its class when the last of its fields loses the focus.

@@ -6,8 +6,7 @@
 
 void bindTickButtons(QWidget& screen, const TickButtons& buttons, const std::function<void(TickWish)>& tick) {
     const auto bind = [&](QAbstractButton* button, TickWish wish) {
-        QObject::connect(button, &QAbstractButton::clicked, &screen,
-                         [&screen, tick, wish] { runHandler(&screen, [tick, wish] { tick(wish); }); });
+        onEvent(button, &QAbstractButton::clicked, &screen, [tick, wish] { tick(wish); });
     };
     bind(buttons.all, TickWish::All);
     bind(buttons.none, TickWish::None);

@@ -7,13 +7,11 @@
 #include <numeric>
 
 void TwoLists::bind(QWidget& screen, const MoveButtons& buttons) {
-    const auto onClick = [&screen](QAbstractButton* button, std::function<void()> move) {
-        QObject::connect(button, &QAbstractButton::clicked, &screen, [&screen, move] { runHandler(&screen, move); });
-    };
-    onClick(buttons.right, [this] { moveRight(Which::Selected); });
-    onClick(buttons.allRight, [this] { moveRight(Which::All); });
-    onClick(buttons.left, [this] { moveLeft(Which::Selected); });
-    onClick(buttons.allLeft, [this] { moveLeft(Which::All); });
+    const auto clicked = &QAbstractButton::clicked;
+    onEvent(buttons.right, clicked, &screen, [this] { moveRight(Which::Selected); });
+    onEvent(buttons.allRight, clicked, &screen, [this] { moveRight(Which::All); });
+    onEvent(buttons.left, clicked, &screen, [this] { moveLeft(Which::Selected); });
+    onEvent(buttons.allLeft, clicked, &screen, [this] { moveLeft(Which::All); });
 }
 
 TwoLists::Taken TwoLists::take(const DataGrid& grid, Which which) const {
